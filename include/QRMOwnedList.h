@@ -1,0 +1,213 @@
+// QRMOwnedList<T>: an insertion-ordered list of heap objects that the list
+// owns. Every list of owned objects in the library is one of these, so the
+// copy, removal and equality rules exist once.
+//
+// Copying is deep (new objects in source order). Assignment releases the
+// target's objects first and then copies; assigning a list to itself leaves
+// it empty (kept for compatibility: callers of the value classes observe it).
+//
+// Entries taken out of the list without being released (see
+// RemoveClosingUp and Retire) stay owned by the list, out of sight, until the
+// list is destroyed, cleared or assigned to, so a pointer a caller obtained
+// earlier never dangles before then.
+#ifndef QRMKIT_OWNED_LIST_H
+#define QRMKIT_OWNED_LIST_H
+
+#include "QRMKitTypes.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+template <class T>
+class QRMOwnedList {
+public:
+    typedef typename std::vector<T*>::const_iterator const_iterator;
+
+    QRMOwnedList() = default;
+    QRMOwnedList(const QRMOwnedList& other) { AppendCopiesOf(other); }
+    QRMOwnedList& operator=(const QRMOwnedList& other)
+    {
+        if (this == &other) {
+            Clear();
+            return *this;
+        }
+        Clear();
+        AppendCopiesOf(other);
+        return *this;
+    }
+    ~QRMOwnedList() { Clear(); }
+
+    std::size_t Size() const { return mItems.size(); }
+    bool IsEmpty() const { return mItems.empty(); }
+    T* At(std::size_t index) const { return mItems[index]; }
+    const_iterator begin() const { return mItems.begin(); }
+    const_iterator end() const { return mItems.end(); }
+    void Reserve(std::size_t count) { mItems.reserve(count); }
+
+    // Appends a heap copy of `item` and returns it.
+    T* Append(const T& item)
+    {
+        std::unique_ptr<T> copy(new T(item));
+        mItems.push_back(copy.get());
+        return copy.release();
+    }
+
+    // Appends an object built by the caller, taking it over.
+    T* Append(std::unique_ptr<T> item)
+    {
+        mItems.push_back(item.get());
+        return item.release();
+    }
+
+    // Index of the first entry for which match(entry) holds, or Size().
+    template <class Match>
+    std::size_t IndexOf(Match match) const
+    {
+        std::size_t index = 0;
+        while (index < mItems.size() && !match(*mItems[index])) {
+            ++index;
+        }
+        return index;
+    }
+
+    // QRM_KIT_ALREADY_EXISTS when a stored entry equals `item` (stored ==
+    // item), else appends a copy and returns QRM_KIT_SUCCESS.
+    QRMKitReturnCode AddUnique(const T& item)
+    {
+        if (IndexOf([&item](const T& stored) { return stored == item; }) < mItems.size()) {
+            return QRM_KIT_ALREADY_EXISTS;
+        }
+        Append(item);
+        return QRM_KIT_SUCCESS;
+    }
+
+    // Releases the first entry equal to `item`, then closes up the list.
+    QRMKitReturnCode RemoveFirst(const T& item)
+    {
+        std::size_t index = IndexOf([&item](const T& stored) { return stored == item; });
+        if (index == mItems.size()) {
+            return QRM_KIT_NOT_FOUND;
+        }
+        delete mItems[index];
+        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
+        return QRM_KIT_SUCCESS;
+    }
+
+    // The removal order the value classes have always had: the first entry
+    // for which match(entry) holds is taken out and the list closes up;
+    // then the entry that now stands at that position is released. When the
+    // removed entry was the last one, that is the removed entry itself.
+    // Otherwise it is the entry that followed: it stays in the list but reads
+    // as new (reset to its default state), and the removed entry is kept,
+    // out of the list, until the list is destroyed or assigned to. Kept for
+    // compatibility: callers observe the shortened list, the same pointers,
+    // and the reset entry.
+    template <class Match>
+    QRMKitReturnCode RemoveClosingUp(Match match)
+    {
+        std::size_t index = IndexOf(match);
+        if (index == mItems.size()) {
+            return QRM_KIT_NOT_FOUND;
+        }
+        T* removed = mItems[index];
+        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
+        if (index == mItems.size()) {
+            delete removed;
+        } else {
+            Keep(removed);
+            *mItems[index] = T();
+        }
+        return QRM_KIT_SUCCESS;
+    }
+
+    // Takes the entry at `index` out of the list without releasing it: it is
+    // kept until the list is destroyed or assigned to.
+    void Retire(std::size_t index)
+    {
+        T* removed = mItems[index];
+        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
+        Keep(removed);
+    }
+
+    // Releases every entry, retired ones included.
+    void Clear()
+    {
+        for (T* item : mItems) {
+            delete item;
+        }
+        mItems.clear();
+        for (T* item : mRetired) {
+            delete item;
+        }
+        mRetired.clear();
+    }
+
+    // Appends a copy of every entry, in order; `out` is not cleared.
+    void AppendCopiesTo(std::vector<T>& out) const
+    {
+        out.reserve(out.size() + mItems.size());
+        for (const T* item : mItems) {
+            out.push_back(*item);
+        }
+    }
+
+    // Appends the stored pointers, in order; `out` is not cleared.
+    void AppendPointersTo(std::vector<T*>& out) const
+    {
+        out.insert(out.end(), mItems.begin(), mItems.end());
+    }
+
+    // The all-pairs rule: equal lengths, and every entry on either side
+    // equal to every entry on the other. A list of two different entries is
+    // therefore unequal even to itself. Kept for compatibility: this is the
+    // equality the value classes have always had for their lists.
+    template <class Equal>
+    bool AllPairsEqual(const QRMOwnedList& other, Equal equal) const
+    {
+        if (mItems.size() != other.mItems.size()) {
+            return false;
+        }
+        for (const T* left : mItems) {
+            for (const T* right : other.mItems) {
+                if (!equal(*left, *right)) {
+                    return false;
+                }
+            }
+        }
+        for (const T* right : other.mItems) {
+            for (const T* left : mItems) {
+                if (!equal(*right, *left)) {
+                    return false;
+                }
+            }
+        }
+        return true;
+    }
+
+    bool AllPairsEqual(const QRMOwnedList& other) const
+    {
+        return AllPairsEqual(other, [](const T& left, const T& right) { return left == right; });
+    }
+
+private:
+    void AppendCopiesOf(const QRMOwnedList& other)
+    {
+        mItems.reserve(other.mItems.size());
+        for (const T* item : other.mItems) {
+            Append(*item);
+        }
+    }
+
+    void Keep(T* item)
+    {
+        std::unique_ptr<T> guard(item);
+        mRetired.push_back(item);
+        guard.release();
+    }
+
+    std::vector<T*> mItems;
+    std::vector<T*> mRetired;
+};
+
+#endif

@@ -1,0 +1,86 @@
+// The XML document model: a parser that reads a file into a document that
+// owns its nodes, and element nodes with name, text, attribute and child
+// queries.
+//
+// Documents may be UTF-8 or UTF-16 (little or big endian, with a byte-order
+// mark). A document type declaration is skipped: entities it defines are
+// never expanded and external entities are never read.
+#ifndef VEL_XML_H
+#define VEL_XML_H
+
+#include "VELExport.h"
+#include "VELFile.h"
+#include "VELString.h"
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+namespace pugi {
+struct xml_node_struct;
+}
+
+enum VELErrorCodeEnum { VEL_SUCCESS = 0, VEL_FAILURE = 1 };
+
+class VELXMLDocument;
+
+// An element of a document. Nodes are handed out as pointers owned by their
+// document; they stay valid while the document lives.
+class VEL_API VELXMLNode {
+public:
+    // The element name.
+    VELString GetName() const;
+    // The element's text: its first text or CDATA child, empty when none.
+    VELString GetValue() const;
+    // The first child node as the parser reports it: the text of a text or
+    // CDATA node, the name of an element node, empty when there is no child.
+    VELString GetFirstChildNodeName() const;
+
+    // When the element has the attribute, writes its text into `value` and
+    // returns VEL_SUCCESS; otherwise returns VEL_FAILURE and leaves `value`.
+    VELErrorCodeEnum GetAttributeValue(const VELString& name, VELString& value) const;
+    VELErrorCodeEnum GetAttributeValue(const char* name, VELString& value) const;
+
+    // Append the direct child elements (all, or those named exactly `name`)
+    // in document order. An element without children is no failure.
+    VELErrorCodeEnum GetChildren(std::vector<VELXMLNode*>& children) const;
+    VELErrorCodeEnum GetChildren(const VELString& name, std::vector<VELXMLNode*>& children) const;
+    VELErrorCodeEnum GetChildren(const char* name, std::vector<VELXMLNode*>& children) const;
+
+    VELXMLNode(pugi::xml_node_struct* node, VELXMLDocument* document);
+
+private:
+    pugi::xml_node_struct* mNode;
+    VELXMLDocument* mDocument;
+};
+
+class VEL_API VELXMLDocument {
+public:
+    VELXMLDocument();
+    ~VELXMLDocument();
+    VELXMLDocument(const VELXMLDocument&) = delete;
+    VELXMLDocument& operator=(const VELXMLDocument&) = delete;
+
+    // The root element, or null when the document has none.
+    VELXMLNode* GetRoot() const;
+
+private:
+    friend class VELXMLNode;
+    friend class VELDOMParser;
+    struct Impl;
+    VELXMLNode* Wrap(pugi::xml_node_struct* node);
+
+    std::unique_ptr<Impl> mImpl;
+    std::deque<VELXMLNode> mNodes;
+};
+
+class VEL_API VELDOMParser {
+public:
+    // Reads and parses the file. On success returns a new document that the
+    // caller owns and deletes, leaving `errorCode` as it was (callers set it
+    // to 0 first). On failure sets `errorCode` to a non-zero value and
+    // `errorText` to a description, and returns null.
+    static VELXMLDocument* Parse(const VELFile& file, int& errorCode, VELString& errorText);
+};
+
+#endif

@@ -1,0 +1,159 @@
+#include "QRMKitAPI.h"
+
+#include "api/QRMIInventory.h"
+#include "api/QRMManifest.h"
+#include "api/QRMXMLRead.h"
+
+#include <memory>
+#include <mutex>
+
+// The two stores are constructed when the library is loaded, before any call.
+QRMKitAPI* QRMKitAPI::mAPI = nullptr;
+QRMManifest QRMKitAPI::mCatalogManifest;
+QRMIInventory QRMKitAPI::mInventory;
+
+namespace {
+
+std::mutex& InstanceMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+}  // namespace
+
+// The instance is made once and kept for the life of the process.
+QRMKitAPI* QRMKitAPI::Instance()
+{
+    std::lock_guard<std::mutex> lock(InstanceMutex());
+    if (mAPI == nullptr) {
+        mAPI = new QRMKitAPI;
+    }
+    return mAPI;
+}
+
+QRMKitAPI::QRMKitAPI() : mInitialized(false) {}
+
+QRMKitAPI::QRMKitAPI(const QRMKitAPI& other) : mInitialized(other.mInitialized)
+{
+    mCatalogFile = other.mCatalogFile;
+}
+
+QRMKitAPI& QRMKitAPI::operator=(const QRMKitAPI& other)
+{
+    mCatalogFile = other.mCatalogFile;
+    mInitialized = other.mInitialized;
+    return *this;
+}
+
+QRMKitAPI::~QRMKitAPI()
+{
+    // A deleted instance must not be handed out again.
+    if (mAPI == this) {
+        mAPI = nullptr;
+    }
+}
+
+QRMKitReturnCode QRMKitAPI::Initialize(const VELFile& file)
+{
+    if (!file.Exists()) {
+        return QRM_KIT_NOT_FOUND;
+    }
+    mCatalogFile = file;
+    mInitialized = true;
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMKitAPI::Reset()
+{
+    mCatalogManifest.Clear();
+    mInitialized = false;
+    return QRM_KIT_SUCCESS;
+}
+
+bool QRMKitAPI::IsInitialized() const { return mInitialized; }
+
+QRMKitReturnCode QRMKitAPI::Parse() { return QRM_KIT_SUCCESS; }
+
+QRMKitReturnCode QRMKitAPI::Parse(const VELFile& file)
+{
+    mCatalogManifest.Clear();
+    if (!file.Exists()) {
+        return QRM_KIT_NOT_FOUND;
+    }
+    int errorCode = 0;
+    VELString errorText;
+    std::unique_ptr<VELXMLDocument> document(VELDOMParser::Parse(file, errorCode, errorText));
+    if (errorCode != 0 || !document) {
+        return QRM_KIT_FAILURE;
+    }
+    VELXMLNode* root = document->GetRoot();
+    if (root == nullptr) {
+        return QRM_KIT_FAILURE;
+    }
+
+    if (mCatalogManifest.SetBaseLocation(qrm::AttributeOrEmpty(*root, "baseLocation")) ==
+        QRM_KIT_FAILURE) {
+        return QRM_KIT_FAILURE;
+    }
+    VELTime dateTime(qrm::AttributeOrEmpty(*root, "dateTime").GetIntValue(std::dec));
+    if (mCatalogManifest.SetDateTime(dateTime) == QRM_KIT_FAILURE) {
+        return QRM_KIT_FAILURE;
+    }
+    if (mCatalogManifest.SetReleaseID(qrm::AttributeOrEmpty(*root, "releaseID")) ==
+        QRM_KIT_FAILURE) {
+        return QRM_KIT_FAILURE;
+    }
+    if (mCatalogManifest.SetVersion(qrm::AttributeOrEmpty(*root, "version")) == QRM_KIT_FAILURE) {
+        return QRM_KIT_FAILURE;
+    }
+
+    std::vector<VELXMLNode*> children;
+    if (root->GetChildren(children) == VEL_FAILURE) {
+        return QRM_KIT_FAILURE;
+    }
+    for (VELXMLNode* child : children) {
+        VELString name = child->GetName();
+        if ("SoftwareBundle" == name) {
+            if (ParseSoftwareBundle(child) == QRM_KIT_ELEMENT_MISSING) {
+                return QRM_KIT_ELEMENT_MISSING;
+            }
+        } else if ("SoftwareComponent" == name) {
+            if (ParseSoftwareComponent(child) == QRM_KIT_ELEMENT_MISSING) {
+                return QRM_KIT_ELEMENT_MISSING;
+            }
+        } else if ("InventoryComponent" == name) {
+            ParseInventoryComponent(child);
+        }
+    }
+    document.reset();
+    return mCatalogManifest.SetParsed();
+}
+
+VELString QRMKitAPI::GetBaseLocation() const
+{
+    return mCatalogManifest.IsParsed() ? mCatalogManifest.GetBaseLocation() : VELString();
+}
+
+void QRMKitAPI::GetSoftwareComponents(std::vector<QRMSoftwareComponent*>& components) const
+{
+    mCatalogManifest.GetSoftwareComponents(components);
+}
+
+void QRMKitAPI::GetSoftwareBundles(std::vector<QRMSoftwareBundle*>& bundles) const
+{
+    mCatalogManifest.GetSoftwareBundles(bundles);
+}
+
+void QRMKitAPI::GetInventoryComponents(std::vector<QRMInventoryComponent>& components) const
+{
+    mCatalogManifest.GetInventoryComponents(components);
+}
+
+VELString QRMKitAPI::GetCatalogReleaseID() const { return mCatalogManifest.GetReleaseID(); }
+
+VELString QRMKitAPI::GetCatalogVersion() const { return mCatalogManifest.GetVersion(); }
+
+VELTime QRMKitAPI::GetCatalogDateTime() const { return mCatalogManifest.GetDateTime(); }
+
+bool QRMKitAPI::IsCatalogParsed() const { return mCatalogManifest.IsParsed(); }

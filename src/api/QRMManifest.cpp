@@ -1,0 +1,131 @@
+#include "api/QRMManifest.h"
+
+namespace {
+
+void CopyInto(const QRMManifest::TextMap& from, QRMManifest::TextMap& to)
+{
+    for (const auto& entry : from) {
+        to[entry.first] = entry.second;
+    }
+}
+
+}  // namespace
+
+QRMManifest::QRMManifest() : mParsed(false) {}
+
+QRMKitReturnCode QRMManifest::Clear()
+{
+    mInventoryComponents.Clear();
+    mSoftwareComponents.Clear();
+    mSoftwareBundles.Clear();
+    mSpareComponents.Clear();
+    mBaseLocation = VELString();
+    mReleaseID = VELString();
+    mVersion = VELString();
+    mParsed = false;
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::SetBaseLocation(const VELString& value)
+{
+    mBaseLocation = value;
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::SetReleaseID(const VELString& value)
+{
+    mReleaseID = value;
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::SetVersion(const VELString& value)
+{
+    mVersion = value;
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::SetDateTime(const VELTime& value)
+{
+    mDateTime = value;
+    return QRM_KIT_SUCCESS;
+}
+
+VELString QRMManifest::GetBaseLocation() const { return mBaseLocation; }
+VELString QRMManifest::GetReleaseID() const { return mReleaseID; }
+VELString QRMManifest::GetVersion() const { return mVersion; }
+VELTime QRMManifest::GetDateTime() const { return mDateTime; }
+
+QRMKitReturnCode QRMManifest::SetParsed()
+{
+    mParsed = true;
+    return QRM_KIT_SUCCESS;
+}
+
+bool QRMManifest::IsParsed() const { return mParsed; }
+
+QRMKitReturnCode QRMManifest::AddSoftwareComponent(const QRMSoftwareComponent& component)
+{
+    mSoftwareComponents.Append(component);
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::AddSoftwareBundle(const QRMSoftwareBundle& bundle)
+{
+    mSoftwareBundles.Append(bundle);
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::AddInventoryComponent(const QRMInventoryComponent& component)
+{
+    mInventoryComponents.Append(component);
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::AddCategoryValue(const VELString& code, const VELString& text)
+{
+    mCategoryValues.emplace(code, text);
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMManifest::AddCategoryAcronym(const VELString& acronym, const VELString& text)
+{
+    mCategoryAcronyms.emplace(acronym, text);
+    return QRM_KIT_SUCCESS;
+}
+
+void QRMManifest::GetCategoryValueMap(TextMap& values) const { CopyInto(mCategoryValues, values); }
+
+void QRMManifest::GetCategoryAcronymMap(TextMap& acronyms) const
+{
+    CopyInto(mCategoryAcronyms, acronyms);
+}
+
+void QRMManifest::GetSoftwareComponents(std::vector<QRMSoftwareComponent*>& components) const
+{
+    mSoftwareComponents.AppendPointersTo(components);
+}
+
+void QRMManifest::GetSoftwareBundles(std::vector<QRMSoftwareBundle*>& bundles) const
+{
+    mSoftwareBundles.AppendPointersTo(bundles);
+}
+
+void QRMManifest::GetInventoryComponents(std::vector<QRMInventoryComponent>& components) const
+{
+    mInventoryComponents.AppendCopiesTo(components);
+}
+
+const QRMOwnedList<QRMSoftwareComponent>& QRMManifest::SoftwareComponents() const
+{
+    return mSoftwareComponents;
+}
+
+const QRMOwnedList<QRMSoftwareBundle>& QRMManifest::SoftwareBundles() const
+{
+    return mSoftwareBundles;
+}
+
+const QRMOwnedList<QRMInventoryComponent>& QRMManifest::InventoryComponents() const
+{
+    return mInventoryComponents;
+}

@@ -1,0 +1,80 @@
+// QRMManifest: the catalog store. It owns every component, bundle and
+// inventory component that parsing produced, in document order, and the
+// catalog's category maps.
+#ifndef QRMKIT_MANIFEST_H
+#define QRMKIT_MANIFEST_H
+
+#include "QRMInventoryComponent.h"
+#include "QRMKitTypes.h"
+#include "QRMOwnedList.h"
+#include "QRMSoftwareBundle.h"
+#include "QRMSoftwareComponent.h"
+#include "VELString.h"
+#include "VELTime.h"
+
+#include <map>
+#include <vector>
+
+class QRMManifest {
+public:
+    typedef std::map<VELString, VELString> TextMap;
+
+    QRMManifest();
+    QRMManifest(const QRMManifest&) = delete;
+    QRMManifest& operator=(const QRMManifest&) = delete;
+
+    // Releases every entry and empties the lists, the base location, release
+    // and version; lowers the parsed flag. The date and both category maps
+    // stay: kept for compatibility, callers still see the categories of an
+    // earlier catalog after a reset or a new parse.
+    QRMKitReturnCode Clear();
+
+    QRMKitReturnCode SetBaseLocation(const VELString& value);
+    QRMKitReturnCode SetReleaseID(const VELString& value);
+    QRMKitReturnCode SetVersion(const VELString& value);
+    QRMKitReturnCode SetDateTime(const VELTime& value);
+    VELString GetBaseLocation() const;
+    VELString GetReleaseID() const;
+    VELString GetVersion() const;
+    VELTime GetDateTime() const;
+
+    QRMKitReturnCode SetParsed();
+    bool IsParsed() const;
+
+    // Append a copy; duplicates are kept (two catalog entries with the same
+    // identifier are both listed).
+    QRMKitReturnCode AddSoftwareComponent(const QRMSoftwareComponent& component);
+    QRMKitReturnCode AddSoftwareBundle(const QRMSoftwareBundle& bundle);
+    QRMKitReturnCode AddInventoryComponent(const QRMInventoryComponent& component);
+
+    // Insert, not overwrite: a key already present keeps its first text.
+    QRMKitReturnCode AddCategoryValue(const VELString& code, const VELString& text);
+    QRMKitReturnCode AddCategoryAcronym(const VELString& acronym, const VELString& text);
+    // Sets the caller's entry for every stored key (overwriting what the
+    // caller held under it); the caller's other entries stay.
+    void GetCategoryValueMap(TextMap& values) const;
+    void GetCategoryAcronymMap(TextMap& acronyms) const;
+
+    void GetSoftwareComponents(std::vector<QRMSoftwareComponent*>& components) const;
+    void GetSoftwareBundles(std::vector<QRMSoftwareBundle*>& bundles) const;
+    void GetInventoryComponents(std::vector<QRMInventoryComponent>& components) const;
+    const QRMOwnedList<QRMSoftwareComponent>& SoftwareComponents() const;
+    const QRMOwnedList<QRMSoftwareBundle>& SoftwareBundles() const;
+    const QRMOwnedList<QRMInventoryComponent>& InventoryComponents() const;
+
+private:
+    QRMOwnedList<QRMSoftwareComponent> mSoftwareComponents;
+    QRMOwnedList<QRMSoftwareBundle> mSoftwareBundles;
+    QRMOwnedList<QRMInventoryComponent> mInventoryComponents;
+    TextMap mCategoryValues;
+    TextMap mCategoryAcronyms;
+    // A second component list that nothing fills; Clear releases it too.
+    QRMOwnedList<QRMSoftwareComponent> mSpareComponents;
+    VELString mBaseLocation;
+    VELTime mDateTime;
+    VELString mReleaseID;
+    VELString mVersion;
+    bool mParsed;
+};
+
+#endif

@@ -1,0 +1,6 @@
+#include "QRMSoftwareBundle.h"
+
+QRMSoftwareBundle::QRMSoftwareBundle() = default;
+QRMSoftwareBundle::QRMSoftwareBundle(const QRMSoftwareBundle& other) = default;
+QRMSoftwareBundle& QRMSoftwareBundle::operator=(const QRMSoftwareBundle& other) = default;
+QRMSoftwareBundle::~QRMSoftwareBundle() = default;

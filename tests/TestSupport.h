@@ -1,0 +1,53 @@
+// Shared helpers of the unit tests: temporary directories with fixture
+// files, and access to the private parts of the API that tests pin.
+#ifndef QRMKIT_TEST_SUPPORT_H
+#define QRMKIT_TEST_SUPPORT_H
+
+#include <QRMKit.h>
+
+#include <string>
+
+// A fresh directory under the system's temporary directory, removed with
+// everything in it when the object goes.
+class TempDir {
+public:
+    TempDir();
+    ~TempDir();
+    TempDir(const TempDir&) = delete;
+    TempDir& operator=(const TempDir&) = delete;
+
+    const std::string& Path() const { return mPath; }
+    // Writes `contents` byte for byte to a file of that name; returns its path.
+    std::string Write(const std::string& name, const std::string& contents) const;
+    // The path a file of that name would have (whether or not it exists).
+    std::string PathOf(const std::string& name) const;
+
+private:
+    std::string mPath;
+};
+
+// Encodes UTF-8 text as UTF-16 little or big endian with a byte-order mark.
+std::string ToUTF16LE(const std::string& utf8);
+std::string ToUTF16BE(const std::string& utf8);
+
+// Captures what the library writes to standard output while it lives.
+class StdoutCapture {
+public:
+    StdoutCapture();
+    ~StdoutCapture();
+    std::string Text();
+
+private:
+    bool mDone;
+    std::string mText;
+};
+
+class QRMKitAPITestPeer {
+public:
+    static int MakeEqualLength(VELString& first, VELString& second)
+    {
+        return QRMKitAPI::Instance()->MakeEqualLength(first, second);
+    }
+};
+
+#endif
