@@ -10,9 +10,43 @@
 
 #include "QRMKitTypes.h"
 #include "QRMOwnedList.h"
-#include "QRMInventoryComponent.h"
-#include "QRMSoftwareBundle.h"
+
+#include "QRMDisplay.h"
+#include "QRMDisplayList.h"
+#include "QRMName.h"
+#include "QRMRevisionHistory.h"
+#include "QRMCategory.h"
+#include "QRMLUCategory.h"
+#include "QRMImportantInfo.h"
+#include "QRMInstallInstruction.h"
+#include "QRMComponentType.h"
+#include "QRMCriticality.h"
+
+#include "QRMOperatingSystem.h"
+#include "QRMSupportedOperatingSystems.h"
+#include "QRMModel.h"
+#include "QRMBrand.h"
+#include "QRMSupportedSystems.h"
+
+#include "QRMPCIInfo.h"
+#include "QRMPnPInfo.h"
+#include "QRMSubComponent.h"
+#include "QRMDependency.h"
+#include "QRMSoftDependency.h"
+#include "QRMDeviceApplicability.h"
+#include "QRMRollbackInformation.h"
+#include "QRMDevice.h"
+
+#include "QRMFMPWrapperInformation.h"
 #include "QRMSoftwareComponent.h"
+#include "QRMBundleContent.h"
+#include "QRMSoftwareBundle.h"
+#include "QRMInventoryComponent.h"
+
+#include "QRMIApplication.h"
+#include "QRMIDevice.h"
+#include "QRMISystem.h"
+
 #include "QRMKitAPI.h"
 
 #endif

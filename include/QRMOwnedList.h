@@ -71,11 +71,19 @@ public:
         return index;
     }
 
-    // QRM_KIT_ALREADY_EXISTS when a stored entry equals `item` (stored ==
-    // item), else appends a copy and returns QRM_KIT_SUCCESS.
+    // Index of the first entry equal to `item` (stored == item), or Size().
+    std::size_t IndexOfEqual(const T& item) const
+    {
+        return IndexOf([&item](const T& stored) { return stored == item; });
+    }
+
+    bool Contains(const T& item) const { return IndexOfEqual(item) < mItems.size(); }
+
+    // QRM_KIT_ALREADY_EXISTS when a stored entry equals `item`, else appends
+    // a copy and returns QRM_KIT_SUCCESS.
     QRMKitReturnCode AddUnique(const T& item)
     {
-        if (IndexOf([&item](const T& stored) { return stored == item; }) < mItems.size()) {
+        if (Contains(item)) {
             return QRM_KIT_ALREADY_EXISTS;
         }
         Append(item);
@@ -85,7 +93,7 @@ public:
     // Releases the first entry equal to `item`, then closes up the list.
     QRMKitReturnCode RemoveFirst(const T& item)
     {
-        std::size_t index = IndexOf([&item](const T& stored) { return stored == item; });
+        std::size_t index = IndexOfEqual(item);
         if (index == mItems.size()) {
             return QRM_KIT_NOT_FOUND;
         }
@@ -106,20 +114,11 @@ public:
     template <class Match>
     QRMKitReturnCode RemoveClosingUp(Match match)
     {
-        std::size_t index = IndexOf(match);
-        if (index == mItems.size()) {
-            return QRM_KIT_NOT_FOUND;
-        }
-        T* removed = mItems[index];
-        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
-        if (index == mItems.size()) {
-            delete removed;
-        } else {
-            Keep(removed);
-            *mItems[index] = T();
-        }
-        return QRM_KIT_SUCCESS;
+        return RemoveClosingUpAt(IndexOf(match));
     }
+
+    // The same for the first entry equal to `item`.
+    QRMKitReturnCode RemoveClosingUpEqual(const T& item) { return RemoveClosingUpAt(IndexOfEqual(item)); }
 
     // Takes the entry at `index` out of the list without releasing it: it is
     // kept until the list is destroyed or assigned to.
@@ -191,6 +190,22 @@ public:
     }
 
 private:
+    QRMKitReturnCode RemoveClosingUpAt(std::size_t index)
+    {
+        if (index == mItems.size()) {
+            return QRM_KIT_NOT_FOUND;
+        }
+        T* removed = mItems[index];
+        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
+        if (index == mItems.size()) {
+            delete removed;
+        } else {
+            Keep(removed);
+            *mItems[index] = T();
+        }
+        return QRM_KIT_SUCCESS;
+    }
+
     void AppendCopiesOf(const QRMOwnedList& other)
     {
         mItems.reserve(other.mItems.size());

@@ -1,9 +1,24 @@
-// QRMSoftwareBundle: a catalog's set of packages for one kind of system and
-// operating system.
+// QRMSoftwareBundle: the set of update packages a catalog offers for one
+// kind of system and operating system, with its bundle type ("BTW64",
+// "BTLX", ...) and bundle id.
 #ifndef QRMKIT_SOFTWARE_BUNDLE_H
 #define QRMKIT_SOFTWARE_BUNDLE_H
 
+#include "QRMBundleContent.h"
+#include "QRMComponentType.h"
+#include "QRMDisplayList.h"
+#include "QRMImportantInfo.h"
 #include "QRMKitTypes.h"
+#include "QRMName.h"
+#include "QRMOwnedList.h"
+#include "QRMRevisionHistory.h"
+#include "QRMSupportedOperatingSystems.h"
+#include "QRMSupportedSystems.h"
+#include "VELGUID.h"
+#include "VELString.h"
+#include "VELTime.h"
+
+#include <vector>
 
 class QRMKIT_API QRMSoftwareBundle {
 public:
@@ -11,6 +26,72 @@ public:
     QRMSoftwareBundle(const QRMSoftwareBundle& other);
     QRMSoftwareBundle& operator=(const QRMSoftwareBundle& other);
     ~QRMSoftwareBundle();
+
+    // Getters return copies; setters store copies and return QRM_KIT_SUCCESS.
+    QRMName GetName() const;
+    QRMKitReturnCode SetName(const QRMName& name);
+    QRMComponentType GetComponentType() const;
+    QRMKitReturnCode SetComponentType(const QRMComponentType& componentType);
+    QRMSupportedSystems GetTargetSystems() const;
+    QRMKitReturnCode SetTargetSystems(const QRMSupportedSystems& systems);
+    QRMSupportedOperatingSystems GetTargetOSes() const;
+    QRMKitReturnCode SetTargetOSes(const QRMSupportedOperatingSystems& oses);
+    QRMRevisionHistory GetRevisionHistory() const;
+    QRMKitReturnCode SetRevisionHistory(const QRMRevisionHistory& history);
+    QRMImportantInfo GetImportantInfo() const;
+    QRMKitReturnCode SetImportantInfo(const QRMImportantInfo& info);
+    VELString GetSchemaVersion() const;
+    QRMKitReturnCode SetSchemaVersion(const VELString& value);
+    VELString GetReleaseID() const;
+    QRMKitReturnCode SetReleaseID(const VELString& value);
+    VELTime GetDateTime() const;
+    QRMKitReturnCode SetDateTime(const VELTime& value);
+    VELString GetVendorVersion() const;
+    QRMKitReturnCode SetVendorVersion(const VELString& value);
+    VELString GetPath() const;
+    QRMKitReturnCode SetPath(const VELString& value);
+    VELString GetBundleID() const;
+    QRMKitReturnCode SetBundleID(const VELString& value);
+    // The two identifiers are never set by the catalog reader.
+    VELGUID GetIdentifier() const;
+    QRMKitReturnCode SetIdentifier(const VELGUID& value);
+    VELGUID GetSecondaryIdentifier() const;
+    QRMKitReturnCode SetSecondaryIdentifier(const VELGUID& value);
+    QRMBundleTypeEnum GetBundleType() const;
+    QRMKitReturnCode SetBundleType(QRMBundleTypeEnum value);
+
+    // The description's texts, under the rules of every display list.
+    void GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const;
+    QRMKitReturnCode AddDescriptionDisplayValue(const VELString& language, const VELString& value);
+    QRMKitReturnCode RemoveDescriptionDisplayValue(const VELString& language);
+
+    // Appends a copy of the package entry; duplicates are kept.
+    QRMKitReturnCode AddContent(const QRMBundleContent& content);
+    // Appends copies of the package entries, in order; `out` is not cleared.
+    void GetContents(std::vector<QRMBundleContent>& out) const;
+
+    // Appends the system id of every model of every brand of the target
+    // systems, in order; `out` is not cleared.
+    void GetSupportedSystemIDs(std::vector<unsigned int>& out) const;
+
+private:
+    QRMName mName;
+    QRMComponentType mComponentType;
+    QRMDisplayList mDescription;
+    QRMSupportedSystems mTargetSystems;
+    QRMSupportedOperatingSystems mTargetOSes;
+    QRMRevisionHistory mRevisionHistory;
+    QRMImportantInfo mImportantInfo;
+    QRMOwnedList<QRMBundleContent> mContents;
+    VELString mSchemaVersion;
+    VELString mReleaseID;
+    VELTime mDateTime;
+    VELString mVendorVersion;
+    VELString mPath;
+    VELString mBundleID;
+    VELGUID mIdentifier;
+    VELGUID mSecondaryIdentifier;
+    QRMBundleTypeEnum mBundleType;
 };
 
 #endif

@@ -1,8 +1,30 @@
-// QRMSoftwareComponent: one update package of the catalog.
+// QRMSoftwareComponent: one update package of the catalog: its identity,
+// package file, descriptive texts, and the devices, systems and operating
+// systems it applies to. Versions, identifiers and the hash are held as the
+// catalog's text.
 #ifndef QRMKIT_SOFTWARE_COMPONENT_H
 #define QRMKIT_SOFTWARE_COMPONENT_H
 
+#include "QRMCategory.h"
+#include "QRMComponentType.h"
+#include "QRMCriticality.h"
+#include "QRMDevice.h"
+#include "QRMDisplayList.h"
+#include "QRMFMPWrapperInformation.h"
+#include "QRMImportantInfo.h"
+#include "QRMInstallInstruction.h"
 #include "QRMKitTypes.h"
+#include "QRMLUCategory.h"
+#include "QRMName.h"
+#include "QRMOwnedList.h"
+#include "QRMRevisionHistory.h"
+#include "QRMSupportedOperatingSystems.h"
+#include "QRMSupportedSystems.h"
+#include "VELGUID.h"
+#include "VELString.h"
+#include "VELTime.h"
+
+#include <vector>
 
 class QRMKIT_API QRMSoftwareComponent {
 public:
@@ -10,6 +32,121 @@ public:
     QRMSoftwareComponent(const QRMSoftwareComponent& other);
     QRMSoftwareComponent& operator=(const QRMSoftwareComponent& other);
     ~QRMSoftwareComponent();
+
+    // Getters return copies; setters store copies and return QRM_KIT_SUCCESS.
+    QRMName GetName() const;
+    QRMKitReturnCode SetName(const QRMName& name);
+    QRMComponentType GetComponentType() const;
+    QRMKitReturnCode SetComponentType(const QRMComponentType& componentType);
+    QRMCategory GetCategory() const;
+    QRMKitReturnCode SetCategory(const QRMCategory& category);
+    QRMLUCategory GetLUCategory() const;
+    QRMKitReturnCode SetLUCategory(const QRMLUCategory& category);
+    QRMSupportedSystems GetSupportedSystems() const;
+    QRMKitReturnCode SetSupportedSystems(const QRMSupportedSystems& systems);
+    QRMSupportedOperatingSystems GetSupportedOperatingSystems() const;
+    QRMKitReturnCode SetSupportedOperatingSystems(const QRMSupportedOperatingSystems& systems);
+    QRMInstallInstruction GetInstallInstruction() const;
+    QRMKitReturnCode SetInstallInstruction(const QRMInstallInstruction& instruction);
+    QRMRevisionHistory GetRevisionHistory() const;
+    QRMKitReturnCode SetRevisionHistory(const QRMRevisionHistory& history);
+    QRMImportantInfo GetImportantInfo() const;
+    QRMKitReturnCode SetImportantInfo(const QRMImportantInfo& info);
+    QRMCriticality GetCriticality() const;
+    QRMKitReturnCode SetCriticality(const QRMCriticality& criticality);
+    VELGUID GetMSIID() const;
+    QRMKitReturnCode SetMSIID(VELGUID& id);
+    VELString GetSchemaVersion() const;
+    QRMKitReturnCode SetSchemaVersion(const VELString& value);
+    VELString GetReleaseID() const;
+    QRMKitReturnCode SetReleaseID(const VELString& value);
+    VELTime GetReleaseDate() const;
+    QRMKitReturnCode SetReleaseDate(const VELTime& value);
+    VELString GetVendorVersion() const;
+    QRMKitReturnCode SetVendorVersion(const VELString& value);
+    VELString GetTolvarVersion() const;
+    QRMKitReturnCode SetTolvarVersion(const VELString& value);
+    VELString GetPackageType() const;
+    QRMKitReturnCode SetPackageType(const VELString& value);
+    VELString GetXMLGenVersion() const;
+    QRMKitReturnCode SetXMLGenVersion(const VELString& value);
+    VELString GetPath() const;
+    QRMKitReturnCode SetPath(const VELString& value);
+    VELString GetPackageID() const;
+    QRMKitReturnCode SetPackageID(const VELString& value);
+    VELTime GetDateTime() const;
+    QRMKitReturnCode SetDateTime(const VELTime& value);
+    VELString GetMD5Hash() const;
+    QRMKitReturnCode SetMD5Hash(const VELString& value);
+    unsigned long long GetSize() const;
+    QRMKitReturnCode SetSize(unsigned long long value);
+    VELGUID GetIdentifier() const;
+    QRMKitReturnCode SetIdentifier(VELGUID& id);
+    VELGUID GetPredecessor() const;
+    QRMKitReturnCode SetPredecessor(VELGUID& id);
+    bool RequiresReboot() const;
+    QRMKitReturnCode SetRequiresReboot(bool value);
+    bool RequiresContainerPowerCycle() const;
+    QRMKitReturnCode SetRequiresContainerPowerCycle(bool value);
+
+    // The description's texts, under the rules of every display list
+    // (QRMDisplayList::AddDisplayValue, RemoveDisplayValue,
+    // GetDisplayValues).
+    void GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const;
+    QRMKitReturnCode AddDescriptionDisplayValue(const VELString& language, const VELString& value);
+    QRMKitReturnCode RemoveDescriptionDisplayValue(const VELString& language);
+
+    // Appends the held devices themselves, in order, without clearing `out`;
+    // they stay valid until the component is changed or destroyed.
+    void GetSupportedDevices(std::vector<QRMDevice*>& out) const;
+    // QRM_KIT_ALREADY_EXISTS when an equal device is held, else a copy is
+    // appended.
+    QRMKitReturnCode AddDeviceSupport(QRMDevice& device);
+    // QRM_KIT_NOT_FOUND when none is equal; else releases the first equal one.
+    QRMKitReturnCode RemoveDeviceSupport(QRMDevice& device);
+
+    // Appends copies, in order; add and remove as for devices.
+    void GetWrappers(std::vector<QRMFMPWrapperInformation>& out) const;
+    QRMKitReturnCode AddWrapper(QRMFMPWrapperInformation& wrapper);
+    QRMKitReturnCode RemoveWrapper(QRMFMPWrapperInformation& wrapper);
+
+    // Every field in order, stopping at the first difference: texts by the
+    // language-matching rule, the devices and wrappers by the all-pairs rule,
+    // strings exactly (a hash in upper case differs from the same in lower).
+    bool operator==(const QRMSoftwareComponent& other) const;
+    bool operator!=(const QRMSoftwareComponent& other) const;
+
+private:
+    QRMName mName;
+    QRMComponentType mComponentType;
+    QRMDisplayList mDescription;
+    QRMCategory mCategory;
+    QRMLUCategory mLUCategory;
+    QRMOwnedList<QRMDevice> mSupportedDevices;
+    QRMSupportedSystems mSupportedSystems;
+    QRMSupportedOperatingSystems mSupportedOperatingSystems;
+    QRMInstallInstruction mInstallInstruction;
+    QRMRevisionHistory mRevisionHistory;
+    QRMImportantInfo mImportantInfo;
+    QRMCriticality mCriticality;
+    VELGUID mMSIID;
+    QRMOwnedList<QRMFMPWrapperInformation> mWrappers;
+    VELString mSchemaVersion;
+    VELString mReleaseID;
+    VELTime mReleaseDate;
+    VELString mVendorVersion;
+    VELString mTolvarVersion;
+    VELString mPackageType;
+    VELString mXMLGenVersion;
+    VELString mPath;
+    VELString mPackageID;
+    VELTime mDateTime;
+    VELString mHashMD5;
+    unsigned long long mSize;
+    VELGUID mIdentifier;
+    VELGUID mPredecessor;
+    bool mRequiresReboot;
+    bool mRequiresContainerPowerCycle;
 };
 
 #endif

@@ -1,44 +1,356 @@
 // The readers of the catalog's entries: "SoftwareBundle",
 // "SoftwareComponent" and "InventoryComponent".
+//
+// Each reader builds its entry step by step in document order and hands it
+// to the catalog store. A required child that is missing (or repeated: only
+// exactly one counts) gives QRM_KIT_ELEMENT_MISSING, which aborts the whole
+// catalog; a "Name" or "Description" without exactly one "Display" gives
+// QRM_KIT_FAILURE, which drops this entry only.
 #include "QRMKitAPI.h"
 
+#include "QRMKit.h"
 #include "api/QRMManifest.h"
 #include "api/QRMXMLRead.h"
 
+#include <memory>
+
+using qrm::AttributeNumber;
+using qrm::AttributeOrEmpty;
+using qrm::Failed;
+using qrm::SingleChild;
+
 namespace {
 
-bool HasAll(const VELXMLNode& node, std::initializer_list<const char*> names)
+VELTime TimeAttribute(const VELXMLNode& node, const char* name)
 {
-    for (const char* name : names) {
-        if (qrm::SingleChild(node, name) == nullptr) {
-            return false;
+    return VELTime(AttributeNumber(node, name, std::dec));
+}
+
+// Adds the "lang" and text of the element's "Display" child (exactly one),
+// when it has one, to `holder`. QRM_KIT_FAILURE only when the add fails.
+template <class Holder>
+QRMKitReturnCode AddOptionalDisplay(const VELXMLNode& node, Holder& holder)
+{
+    VELXMLNode* display = SingleChild(node, "Display");
+    if (display == nullptr) {
+        return QRM_KIT_SUCCESS;
+    }
+    return holder.AddDisplayValue(AttributeOrEmpty(*display, "lang"), display->GetValue());
+}
+
+// "Name", "ComponentType" and "Description", which bundles and components
+// share. `language` carries the Name's language over to a ComponentType
+// "Display" that has no "lang" of its own.
+template <class Entry>
+QRMKitReturnCode ReadNameTypeDescription(const VELXMLNode& node, Entry& entry)
+{
+    VELXMLNode* nameNode = SingleChild(node, "Name");
+    if (nameNode == nullptr) {
+        return QRM_KIT_ELEMENT_MISSING;
+    }
+    VELXMLNode* nameDisplay = SingleChild(*nameNode, "Display");
+    if (nameDisplay == nullptr) {
+        return QRM_KIT_FAILURE;
+    }
+    VELString language = AttributeOrEmpty(*nameDisplay, "lang");
+    QRMName name;
+    if (Failed(name.AddDisplayValue(language, nameDisplay->GetValue()))) {
+        return QRM_KIT_FAILURE;
+    }
+    entry.SetName(name);
+
+    VELXMLNode* typeNode = SingleChild(node, "ComponentType");
+    if (typeNode == nullptr) {
+        return QRM_KIT_ELEMENT_MISSING;
+    }
+    QRMComponentTypeValueEnum code = QRM_COMPONENT_SBDL;
+    QRMComponentTypeFromText(AttributeOrEmpty(*typeNode, "value"), code);
+    QRMComponentType componentType;
+    if (VELXMLNode* typeDisplay = SingleChild(*typeNode, "Display")) {
+        typeDisplay->GetAttributeValue("lang", language);
+        if (Failed(componentType.AddDisplayValue(language, typeDisplay->GetValue()))) {
+            return QRM_KIT_FAILURE;
         }
     }
-    return true;
+    if (Failed(componentType.SetValue(code))) {
+        return QRM_KIT_FAILURE;
+    }
+    entry.SetComponentType(componentType);
+
+    if (VELXMLNode* description = SingleChild(node, "Description")) {
+        VELXMLNode* display = SingleChild(*description, "Display");
+        if (display == nullptr) {
+            return QRM_KIT_FAILURE;
+        }
+        if (Failed(entry.AddDescriptionDisplayValue(AttributeOrEmpty(*display, "lang"),
+                                                    display->GetValue()))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+    return QRM_KIT_SUCCESS;
+}
+
+// One "Brand" (exactly one) of "TargetSystems" or "SupportedSystems", with
+// at most one "Model", added to `systems`.
+QRMKitReturnCode ReadBrand(const VELXMLNode& systemsNode, QRMSupportedSystems& systems)
+{
+    VELXMLNode* brandNode = SingleChild(systemsNode, "Brand");
+    if (brandNode == nullptr) {
+        return QRM_KIT_SUCCESS;
+    }
+    QRMBrand brand;
+    if (Failed(brand.SetKey(AttributeOrEmpty(*brandNode, "key"))) ||
+        Failed(brand.SetPrefix(AttributeOrEmpty(*brandNode, "prefix"))) ||
+        Failed(AddOptionalDisplay(*brandNode, brand))) {
+        return QRM_KIT_FAILURE;
+    }
+    if (VELXMLNode* modelNode = SingleChild(*brandNode, "Model")) {
+        QRMModel model;
+        if (Failed(model.SetSystemID(AttributeNumber(*modelNode, "systemID", std::hex))) ||
+            Failed(AddOptionalDisplay(*modelNode, model))) {
+            return QRM_KIT_FAILURE;
+        }
+        brand.AddModel(model);
+    }
+    systems.AddBrand(brand);
+    return QRM_KIT_SUCCESS;
+}
+
+template <class Entry>
+void ReadImportantInfo(const VELXMLNode& node, Entry& entry)
+{
+    if (VELXMLNode* infoNode = SingleChild(node, "ImportantInfo")) {
+        QRMImportantInfo info;
+        info.SetURL(AttributeOrEmpty(*infoNode, "URL"));
+        entry.SetImportantInfo(info);
+    }
+}
+
+QRMKitReturnCode ReadDevice(const VELXMLNode& deviceNode, QRMDevice& device)
+{
+    if (Failed(device.SetComponentID(AttributeNumber(deviceNode, "componentID", std::dec))) ||
+        Failed(device.SetEmbedded(AttributeNumber(deviceNode, "embedded", std::dec) != 0))) {
+        return QRM_KIT_FAILURE;
+    }
+    std::vector<VELXMLNode*> pciNodes;
+    deviceNode.GetChildren("PCIInfo", pciNodes);
+    for (const VELXMLNode* pciNode : pciNodes) {
+        QRMPCIInfo pci;
+        if (Failed(pci.SetDeviceID(AttributeNumber(*pciNode, "deviceID", std::hex))) ||
+            Failed(pci.SetVendorID(AttributeNumber(*pciNode, "vendorID", std::hex))) ||
+            Failed(pci.SetSubDeviceID(AttributeNumber(*pciNode, "subDeviceID", std::hex))) ||
+            Failed(pci.SetSubVendorID(AttributeNumber(*pciNode, "subVendorID", std::hex))) ||
+            Failed(device.AddPCIInfo(pci))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+    return AddOptionalDisplay(deviceNode, device);
+}
+
+QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& osNode, QRMOSArchitectureEnum& architecture,
+                                     QRMOperatingSystem& os)
+{
+    // An unknown "osArch" keeps the architecture of the entry before it:
+    // kept for compatibility with catalogs that state it once.
+    QRMOSArchitectureFromText(AttributeOrEmpty(osNode, "osArch"), architecture);
+    if (Failed(os.SetArchitecture(architecture)) ||
+        Failed(os.SetCode(AttributeOrEmpty(osNode, "osCode"))) ||
+        Failed(os.SetVendor(AttributeOrEmpty(osNode, "osVendor"))) ||
+        Failed(os.SetMajorVersion(AttributeOrEmpty(osNode, "majorVersion"))) ||
+        Failed(os.SetMinorVersion(AttributeOrEmpty(osNode, "minorVersion"))) ||
+        Failed(os.SetServicePackMajorVersion(AttributeOrEmpty(osNode, "spMajorVersion"))) ||
+        Failed(os.SetServicePackMinorVersion(AttributeOrEmpty(osNode, "spMinorVersion")))) {
+        return QRM_KIT_FAILURE;
+    }
+    return AddOptionalDisplay(osNode, os);
 }
 
 }  // namespace
 
 QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
 {
-    if (!HasAll(*node, {"Name", "ComponentType", "Contents"})) {
+    QRMSoftwareBundle bundle;
+    QRMKitReturnCode result = ReadNameTypeDescription(*node, bundle);
+    if (result != QRM_KIT_SUCCESS) {
+        return result;
+    }
+
+    if (VELXMLNode* targetSystems = SingleChild(*node, "TargetSystems")) {
+        QRMSupportedSystems systems;
+        if (Failed(ReadBrand(*targetSystems, systems))) {
+            return QRM_KIT_FAILURE;
+        }
+        bundle.SetTargetSystems(systems);
+    }
+
+    if (VELXMLNode* targetOSes = SingleChild(*node, "TargetOSes")) {
+        QRMSupportedOperatingSystems oses;
+        if (VELXMLNode* osNode = SingleChild(*targetOSes, "OperatingSystem")) {
+            QRMOperatingSystem os;
+            if (Failed(os.SetCode(AttributeOrEmpty(*osNode, "osCode"))) ||
+                Failed(os.SetVendor(AttributeOrEmpty(*osNode, "osVendor"))) ||
+                Failed(AddOptionalDisplay(*osNode, os)) || Failed(oses.AddOS(os))) {
+                return QRM_KIT_FAILURE;
+            }
+        }
+        if (Failed(bundle.SetTargetOSes(oses))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+
+    if (VELXMLNode* historyNode = SingleChild(*node, "RevisionHistory")) {
+        QRMRevisionHistory history;
+        AddOptionalDisplay(*historyNode, history);
+        bundle.SetRevisionHistory(history);
+    }
+
+    ReadImportantInfo(*node, bundle);
+
+    VELXMLNode* contentsNode = SingleChild(*node, "Contents");
+    if (contentsNode == nullptr) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    return mCatalogManifest.AddSoftwareBundle(QRMSoftwareBundle());
+    std::vector<VELXMLNode*> packages;
+    contentsNode->GetChildren(packages);
+    for (const VELXMLNode* package : packages) {
+        QRMBundleContent content;
+        if (Failed(content.SetPath(AttributeOrEmpty(*package, "path")))) {
+            return QRM_KIT_FAILURE;
+        }
+        content.SetPackageID(AttributeOrEmpty(*package, "packageID"));
+        bundle.AddContent(content);
+    }
+
+    if (Failed(bundle.SetSchemaVersion(AttributeOrEmpty(*node, "schemaVersion"))) ||
+        Failed(bundle.SetReleaseID(AttributeOrEmpty(*node, "releaseID"))) ||
+        Failed(bundle.SetDateTime(TimeAttribute(*node, "dateTime"))) ||
+        Failed(bundle.SetVendorVersion(AttributeOrEmpty(*node, "vendorVersion"))) ||
+        Failed(bundle.SetPath(AttributeOrEmpty(*node, "path"))) ||
+        Failed(bundle.SetBundleID(AttributeOrEmpty(*node, "bundleID")))) {
+        return QRM_KIT_FAILURE;
+    }
+    QRMBundleTypeEnum bundleType = QRM_BUNDLE_BTW32;
+    QRMBundleTypeFromText(AttributeOrEmpty(*node, "bundleType"), bundleType);
+    bundle.SetBundleType(bundleType);
+
+    return mCatalogManifest.AddSoftwareBundle(bundle);
 }
 
 QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
 {
-    if (!HasAll(*node, {"Name", "ComponentType", "Category", "SupportedDevices"})) {
+    QRMSoftwareComponent component;
+    QRMKitReturnCode result = ReadNameTypeDescription(*node, component);
+    if (result != QRM_KIT_SUCCESS) {
+        return result;
+    }
+
+    // The category text is the first child node of its "Display" (a CDATA
+    // or text node's text, an element's name), not the Display's value.
+    VELXMLNode* categoryNode = SingleChild(*node, "Category");
+    if (categoryNode == nullptr) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    return mCatalogManifest.AddSoftwareComponent(QRMSoftwareComponent());
+    QRMCategory category;
+    category.SetCode(AttributeOrEmpty(*categoryNode, "value"));
+    VELString categoryText;
+    if (VELXMLNode* display = SingleChild(*categoryNode, "Display")) {
+        categoryText = display->GetFirstChildNodeName();
+        if (Failed(category.AddDisplayValue(AttributeOrEmpty(*display, "lang"), categoryText))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+    component.SetCategory(category);
+
+    if (VELXMLNode* luNode = SingleChild(*node, "LUCategory")) {
+        QRMLUCategory luCategory;
+        luCategory.SetCode(AttributeOrEmpty(*luNode, "value"));
+        if (Failed(AddOptionalDisplay(*luNode, luCategory))) {
+            return QRM_KIT_FAILURE;
+        }
+        component.SetLUCategory(luCategory);
+    }
+
+    VELXMLNode* devicesNode = SingleChild(*node, "SupportedDevices");
+    if (devicesNode == nullptr) {
+        return QRM_KIT_ELEMENT_MISSING;
+    }
+    std::vector<VELXMLNode*> deviceNodes;
+    devicesNode->GetChildren(deviceNodes);
+    for (const VELXMLNode* deviceNode : deviceNodes) {
+        QRMDevice device;
+        if (Failed(ReadDevice(*deviceNode, device))) {
+            return QRM_KIT_FAILURE;
+        }
+        component.AddDeviceSupport(device);
+    }
+
+    if (VELXMLNode* systemsNode = SingleChild(*node, "SupportedSystems")) {
+        QRMSupportedSystems systems;
+        if (Failed(systems.SetDisplay(AttributeNumber(*systemsNode, "display", std::dec) != 0)) ||
+            Failed(ReadBrand(*systemsNode, systems)) ||
+            Failed(component.SetSupportedSystems(systems))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+
+    if (VELXMLNode* osesNode = SingleChild(*node, "SupportedOperatingSystems")) {
+        QRMSupportedOperatingSystems oses;
+        QRMOSArchitectureEnum architecture = QRM_OS_ARCH_X86;
+        std::vector<VELXMLNode*> osNodes;
+        osesNode->GetChildren(osNodes);
+        for (const VELXMLNode* osNode : osNodes) {
+            QRMOperatingSystem os;
+            if (Failed(ReadOperatingSystem(*osNode, architecture, os))) {
+                return QRM_KIT_FAILURE;
+            }
+            oses.AddOS(os);
+        }
+        component.SetSupportedOperatingSystems(oses);
+    }
+
+    ReadImportantInfo(*node, component);
+
+    QRMCriticality criticality;
+    criticality.SetValue(QRM_CRITICALITY_UNSPECIFIED);
+    if (VELXMLNode* criticalityNode = SingleChild(*node, "Criticality")) {
+        QRMCriticalityValueEnum value = QRM_CRITICALITY_UNSPECIFIED;
+        QRMCriticalityFromText(AttributeOrEmpty(*criticalityNode, "value"), value);
+        criticality.SetValue(value);
+        if (Failed(AddOptionalDisplay(*criticalityNode, criticality))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+    component.SetCriticality(criticality);
+
+    component.SetSchemaVersion(AttributeOrEmpty(*node, "schemaVersion"));
+    component.SetReleaseID(AttributeOrEmpty(*node, "releaseID"));
+    component.SetDateTime(TimeAttribute(*node, "dateTime"));
+    component.SetVendorVersion(AttributeOrEmpty(*node, "vendorVersion"));
+    component.SetReleaseDate(TimeAttribute(*node, "releaseDate"));
+    component.SetMD5Hash(AttributeOrEmpty(*node, "hashMD5"));
+    component.SetTolvarVersion(AttributeOrEmpty(*node, "tolvarVersion"));
+    component.SetPackageID(AttributeOrEmpty(*node, "packageID"));
+    component.SetPackageType(AttributeOrEmpty(*node, "packageType"));
+    component.SetPath(AttributeOrEmpty(*node, "path"));
+
+    // The first text recorded for a code stays.
+    mCatalogManifest.AddCategoryValue(category.GetCode(), categoryText);
+    return mCatalogManifest.AddSoftwareComponent(component);
 }
 
 QRMKitReturnCode QRMKitAPI::ParseInventoryComponent(VELXMLNode*& node)
 {
     QRMInventoryComponent component;
-    component.SetOSCode(qrm::AttributeOrEmpty(*node, "osCode"));
-    component.SetPath(qrm::AttributeOrEmpty(*node, "path"));
+    if (Failed(component.SetSchemaVersion(AttributeOrEmpty(*node, "schemaVersion"))) ||
+        Failed(component.SetReleaseID(AttributeOrEmpty(*node, "releaseID"))) ||
+        Failed(component.SetDateTime(TimeAttribute(*node, "dateTime"))) ||
+        Failed(component.SetVendorVersion(AttributeOrEmpty(*node, "vendorVersion"))) ||
+        Failed(component.SetReleaseDate(TimeAttribute(*node, "releaseDate"))) ||
+        Failed(component.SetMD5Hash(AttributeOrEmpty(*node, "hashMD5"))) ||
+        Failed(component.SetTolvarVersion(AttributeOrEmpty(*node, "tolvarVersion"))) ||
+        Failed(component.SetOSCode(AttributeOrEmpty(*node, "osCode"))) ||
+        Failed(component.SetPath(AttributeOrEmpty(*node, "path")))) {
+        return QRM_KIT_FAILURE;
+    }
     return mCatalogManifest.AddInventoryComponent(component);
 }

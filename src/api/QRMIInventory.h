@@ -1,13 +1,55 @@
 // QRMIInventory: the inventory store. One per process; ParseInventory adds
-// to it and nothing empties it.
+// to it and nothing empties it (kept for compatibility: callers rely on
+// repeated reads accumulating).
 #ifndef QRMKIT_I_INVENTORY_H
 #define QRMKIT_I_INVENTORY_H
 
+#include "QRMIDevice.h"
+#include "QRMISystem.h"
+#include "QRMKitTypes.h"
+#include "QRMOperatingSystem.h"
+#include "QRMOwnedList.h"
+#include "VELString.h"
+#include "VELTime.h"
+
+#include <vector>
+
 class QRMIInventory {
 public:
-    QRMIInventory() = default;
+    QRMIInventory();
     QRMIInventory(const QRMIInventory&) = delete;
     QRMIInventory& operator=(const QRMIInventory&) = delete;
+
+    QRMKitReturnCode SetLanguage(QRMInventoryLanguageEnum language);
+    QRMKitReturnCode SetSchemaVersion(const VELString& schemaVersion);
+    QRMKitReturnCode SetTimeStamp(const VELTime& timeStamp);
+    QRMKitReturnCode SetParsed();
+
+    // QRM_KIT_ALREADY_EXISTS (nothing stored) when a held item equals the
+    // argument; otherwise a copy is stored at the end.
+    QRMKitReturnCode AddOperatingSystem(const QRMOperatingSystem& os);
+    QRMKitReturnCode AddSystem(const QRMISystem& system);
+    QRMKitReturnCode AddDevice(const QRMIDevice& device);
+
+    bool IsParsed() const;
+    QRMInventoryLanguageEnum GetLanguage() const;
+    VELString GetSchemaVersion() const;
+    VELTime GetTimeStamp() const;
+    // Append to the caller's vector, in stored order, without clearing it.
+    void AppendDevices(std::vector<QRMIDevice*>& devices) const;
+    void CopySystems(std::vector<QRMISystem>& systems) const;
+    void CopyOperatingSystems(std::vector<QRMOperatingSystem>& oses) const;
+    const QRMOwnedList<QRMISystem>& Systems() const;
+    const QRMOwnedList<QRMIDevice>& Devices() const;
+
+private:
+    QRMOwnedList<QRMOperatingSystem> mOperatingSystems;
+    QRMOwnedList<QRMISystem> mSystems;
+    QRMOwnedList<QRMIDevice> mDevices;
+    QRMInventoryLanguageEnum mLanguage;
+    VELString mSchemaVersion;
+    VELTime mTimeStamp;
+    bool mParsed;
 };
 
 #endif

@@ -4,6 +4,7 @@
 #include "api/QRMManifest.h"
 #include "api/QRMXMLRead.h"
 
+#include <iostream>
 #include <memory>
 #include <mutex>
 
@@ -157,3 +158,41 @@ VELString QRMKitAPI::GetCatalogVersion() const { return mCatalogManifest.GetVers
 VELTime QRMKitAPI::GetCatalogDateTime() const { return mCatalogManifest.GetDateTime(); }
 
 bool QRMKitAPI::IsCatalogParsed() const { return mCatalogManifest.IsParsed(); }
+
+namespace {
+
+// The library's one message, for queries that need a parsed catalog.
+void ReportCatalogNotInitialized() { std::cout << "Catalog not initialized" << std::endl; }
+
+}  // namespace
+
+const QRMInventoryComponent* QRMKitAPI::GetInventoryComponent(QRMOSArchitectureEnum /*architecture*/,
+                                                              VELString osCode) const
+{
+    if (!mCatalogManifest.IsParsed()) {
+        ReportCatalogNotInitialized();
+        return nullptr;
+    }
+    const QRMOwnedList<QRMInventoryComponent>& components = mCatalogManifest.InventoryComponents();
+    std::size_t index = components.IndexOf(
+        [&osCode](const QRMInventoryComponent& component) { return component.GetOSCode() == osCode; });
+    if (index == components.Size()) {
+        return nullptr;
+    }
+    return new QRMInventoryComponent(*components.At(index));
+}
+
+VELString QRMKitAPI::GetInventoryFile(QRMOSArchitectureEnum architecture, VELString osCode) const
+{
+    if (!mCatalogManifest.IsParsed()) {
+        ReportCatalogNotInitialized();
+        return VELString();
+    }
+    VELString baseLocation = mCatalogManifest.GetBaseLocation();
+    std::unique_ptr<const QRMInventoryComponent> component(
+        Instance()->GetInventoryComponent(architecture, osCode));
+    if (!component) {
+        return VELString();
+    }
+    return baseLocation + "/" + component->GetPath();
+}

@@ -16,4 +16,10 @@ VELString AttributeOrEmpty(const VELXMLNode& node, const char* name)
     return value;
 }
 
+unsigned int AttributeNumber(const VELXMLNode& node, const char* name,
+                             std::ios_base& (*base)(std::ios_base&))
+{
+    return AttributeOrEmpty(node, name).GetIntValue(base);
+}
+
 }  // namespace qrm

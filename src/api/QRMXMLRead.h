@@ -2,9 +2,11 @@
 #ifndef QRMKIT_XML_READ_H
 #define QRMKIT_XML_READ_H
 
+#include "QRMKitTypes.h"
 #include "VELString.h"
 #include "VELXML.h"
 
+#include <ios>
 #include <vector>
 
 namespace qrm {
@@ -15,6 +17,15 @@ VELXMLNode* SingleChild(const VELXMLNode& node, const char* name);
 
 // The attribute's text, or the empty text when the attribute is missing.
 VELString AttributeOrEmpty(const VELXMLNode& node, const char* name);
+
+// The attribute's number in the given base (std::dec or std::hex); a missing
+// attribute reads as the empty text does.
+unsigned int AttributeNumber(const VELXMLNode& node, const char* name,
+                             std::ios_base& (*base)(std::ios_base&));
+
+// A step whose result the readers test: only QRM_KIT_FAILURE fails it
+// (QRM_KIT_ALREADY_EXISTS from an add is no failure: the item is skipped).
+inline bool Failed(QRMKitReturnCode code) { return code == QRM_KIT_FAILURE; }
 
 }  // namespace qrm
 

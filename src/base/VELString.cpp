@@ -1,5 +1,7 @@
 #include "VELString.h"
 
+#include "base/VELCombinations.h"
+
 #include <utf8.h>
 
 #include <algorithm>
@@ -276,34 +278,6 @@ VELString VELString::RemoveVowels() const
     return VELString(std::move(kept));
 }
 
-namespace {
-
-struct CombinationWalk {
-    const std::u16string& text;
-    char* buffer;
-    std::u16string chosen;
-    std::size_t size;
-    std::vector<VELString>& out;
-
-    void Choose(std::size_t start, std::size_t end, std::size_t index)
-    {
-        if (index == size) {
-            out.emplace_back(chosen);
-            return;
-        }
-        // Stop early when too few positions remain to complete a selection.
-        for (std::size_t i = start; i <= end && end - i + 1 >= size - index; ++i) {
-            chosen[index] = text[i];
-            if (buffer != nullptr) {
-                buffer[index] = text[i] < 0x80 ? static_cast<char>(text[i]) : '?';
-            }
-            Choose(i + 1, end, index + 1);
-        }
-    }
-};
-
-}  // namespace
-
 void VELString::ListCombinationsOfString(char* buffer, unsigned int start, unsigned int end,
                                          unsigned int index, unsigned int size,
                                          std::vector<VELString>& out) const
@@ -311,25 +285,34 @@ void VELString::ListCombinationsOfString(char* buffer, unsigned int start, unsig
     if (index > size) {
         return;
     }
-    CombinationWalk walk{mUnits, buffer, std::u16string(size, u'\0'), size, out};
+    // The first `index` characters were chosen by the caller and stand in
+    // the buffer already.
+    std::u16string chosen(size, u'\0');
     if (buffer != nullptr) {
         buffer[size] = '\0';
         for (unsigned int i = 0; i < index; ++i) {
-            walk.chosen[i] = static_cast<unsigned char>(buffer[i]);
+            chosen[i] = static_cast<unsigned char>(buffer[i]);
         }
     }
-    if (index == size) {
-        walk.Choose(0, 0, index);
+    const std::size_t count = size - index;
+    if (count == 0) {
+        out.emplace_back(chosen);
         return;
     }
     if (mUnits.empty() || start >= mUnits.size()) {
         return;
     }
-    std::size_t last = std::min<std::size_t>(end, mUnits.size() - 1);
-    if (start > last) {
-        return;
+    vel::CombinationCursor cursor(start, std::min<std::size_t>(end, mUnits.size() - 1), count);
+    while (cursor.Next()) {
+        for (std::size_t i = 0; i < count; ++i) {
+            char16_t unit = mUnits[cursor.Positions()[i]];
+            chosen[index + i] = unit;
+            if (buffer != nullptr) {
+                buffer[index + i] = unit < 0x80 ? static_cast<char>(unit) : '?';
+            }
+        }
+        out.emplace_back(chosen);
     }
-    walk.Choose(start, last, index);
 }
 
 bool operator==(const VELString& left, const VELString& right)

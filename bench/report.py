@@ -1,0 +1,53 @@
+#!/usr/bin/env python3
+"""Prints the medians of bench/run's benchmark reports, and their ratios."""
+import json
+import sys
+
+
+def medians(path):
+    with open(path) as source:
+        report = json.load(source)
+    result = {}
+    for entry in report["benchmarks"]:
+        if entry.get("aggregate_name") == "median":
+            name = entry["run_name"].split("/")[0]
+            result[name] = (entry["real_time"], entry.get("components"), entry.get("devices"))
+    return result
+
+
+def main_report(path):
+    m = medians(path)
+    floor = m["XMLParserLoadAndWalk"][0]
+    parse = m["Parse"][0]
+    print("%-24s %12s %14s" % ("benchmark", "median ms", "ratio"))
+    for name in ["XMLParserLoadAndWalk", "Parse", "ParseInventory", "ApplicableUpdates", "CategoryQueries"]:
+        if name not in m:
+            continue
+        time = m[name][0]
+        if name == "Parse":
+            ratio = "%.2f x XML" % (time / floor)
+        elif name == "XMLParserLoadAndWalk":
+            ratio = "1.00 x XML"
+        else:
+            ratio = "%.2f %% Parse" % (100.0 * time / parse)
+        print("%-24s %12.2f %14s" % (name, time, ratio))
+
+
+def scaling_report(paths):
+    print("%12s %10s %14s %22s" % ("components", "devices", "Parse ms", "ApplicableUpdates ms"))
+    base = None
+    for path in paths:
+        m = medians(path)
+        parse, components, _ = m["Parse"]
+        updates, _, devices = m["ApplicableUpdates"]
+        if base is None:
+            base = (parse, updates)
+        print("%12d %10d %9.1f (%4.2fx) %15.2f (%4.2fx)" % (
+            components, devices, parse, parse / base[0], updates, updates / base[1]))
+
+
+if __name__ == "__main__":
+    if sys.argv[1] == "main":
+        main_report(sys.argv[2])
+    else:
+        scaling_report(sys.argv[2:])

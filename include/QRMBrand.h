@@ -1,0 +1,43 @@
+// QRMBrand: a brand of computers ("Brand" element) with its models.
+#ifndef QRMKIT_BRAND_H
+#define QRMKIT_BRAND_H
+
+#include "QRMDisplayList.h"
+#include "QRMModel.h"
+#include "QRMOwnedList.h"
+
+#include <vector>
+
+class QRMKIT_API QRMBrand : public QRMDisplayList {
+public:
+    QRMBrand();
+    QRMBrand(const QRMBrand& other);
+    QRMBrand& operator=(const QRMBrand& other);
+    ~QRMBrand();
+
+    unsigned int GetKey() const;
+    // Stores the decimal integer value of the text.
+    QRMKitReturnCode SetKey(const VELString& key);
+    VELString GetPrefix() const;
+    QRMKitReturnCode SetPrefix(const VELString& prefix);
+
+    // Appends a copy of the model.
+    QRMKitReturnCode AddModel(const QRMModel& model);
+    // Appends the held models themselves, in order; `out` is not cleared.
+    void GetModels(std::vector<QRMModel*>& out) const;
+
+    // Key, prefix, the texts by the language-matching rule, equal numbers of
+    // models; then every pair of models (one from each side) that share
+    // system id and second id must be the very same object. So a brand is
+    // unequal to its own copy as soon as it holds a model. Kept for
+    // compatibility: models are matched by identity.
+    bool operator==(const QRMBrand& other) const;
+    bool operator!=(const QRMBrand& other) const;
+
+private:
+    unsigned int mKey;
+    VELString mPrefix;
+    QRMOwnedList<QRMModel> mModels;
+};
+
+#endif

@@ -1,0 +1,34 @@
+// QRMBundleContent: one package of a software bundle (a child of the
+// bundle's "Contents"): its package id and its file name.
+#ifndef QRMKIT_BUNDLE_CONTENT_H
+#define QRMKIT_BUNDLE_CONTENT_H
+
+#include "QRMKitTypes.h"
+#include "VELGUID.h"
+#include "VELString.h"
+
+class QRMKIT_API QRMBundleContent {
+public:
+    QRMBundleContent();
+    QRMBundleContent(const QRMBundleContent& other);
+    QRMBundleContent& operator=(const QRMBundleContent& other);
+    ~QRMBundleContent();
+
+    VELString GetPackageID() const;
+    QRMKitReturnCode SetPackageID(const VELString& packageID);
+    VELString GetPath() const;
+    QRMKitReturnCode SetPath(const VELString& path);
+    // Never set by the catalog reader: the nil GUID unless a caller sets it.
+    VELGUID GetIdentifier() const;
+    QRMKitReturnCode SetIdentifier(const VELGUID& identifier);
+
+    bool operator==(const QRMBundleContent& other) const;
+    bool operator!=(const QRMBundleContent& other) const;
+
+private:
+    VELString mPackageID;
+    VELString mPath;
+    VELGUID mIdentifier;
+};
+
+#endif

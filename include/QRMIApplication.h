@@ -1,0 +1,39 @@
+// QRMIApplication: one application, driver, firmware or BIOS installed for
+// an inventory device, with its installed version.
+#ifndef QRMKIT_I_APPLICATION_H
+#define QRMKIT_I_APPLICATION_H
+
+#include "QRMDisplayList.h"
+#include "QRMKitTypes.h"
+#include "VELString.h"
+
+class QRMKIT_API QRMIApplication : public QRMDisplayList {
+public:
+    QRMIApplication();
+    QRMIApplication(const QRMIApplication& other);
+    QRMIApplication& operator=(const QRMIApplication& other);
+    ~QRMIApplication();
+
+    QRMComponentTypeValueEnum GetComponentType() const;
+    QRMKitReturnCode SetComponentType(const QRMComponentTypeValueEnum& componentType);
+    VELString GetVersion() const;
+    QRMKitReturnCode SetVersion(const VELString& version);
+    VELString GetDisplay() const;
+    QRMKitReturnCode SetDisplay(const VELString& display);
+    VELString GetSubComponentID() const;
+    QRMKitReturnCode SetSubComponentID(const VELString& subComponentID);
+
+    // Component type, version, display, sub-component id, then the texts by
+    // the language-matching rule (same count; texts agree where languages
+    // coincide).
+    bool operator==(const QRMIApplication& other) const;
+    bool operator!=(const QRMIApplication& other) const;
+
+private:
+    QRMComponentTypeValueEnum mComponentType;
+    VELString mVersion;
+    VELString mDisplay;
+    VELString mSubComponentID;
+};
+
+#endif

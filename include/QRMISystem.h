@@ -1,0 +1,39 @@
+// QRMISystem: the identity of the inventoried computer ("System" element):
+// its system id, id type, display name and service tag.
+#ifndef QRMKIT_I_SYSTEM_H
+#define QRMKIT_I_SYSTEM_H
+
+#include "QRMDisplayList.h"
+#include "QRMKitTypes.h"
+#include "VELString.h"
+
+class QRMKIT_API QRMISystem : public QRMDisplayList {
+public:
+    QRMISystem();
+    QRMISystem(const QRMISystem& other);
+    QRMISystem& operator=(const QRMISystem& other);
+    ~QRMISystem();
+
+    // The number that "systemID" spells in hexadecimal.
+    unsigned int GetSystemID() const;
+    QRMKitReturnCode SetSystemID(unsigned int systemID);
+    QRMSystemIDTypeEnum GetSystemIDType() const;
+    QRMKitReturnCode SetSystemIDType(QRMSystemIDTypeEnum systemIDType);
+    VELString GetDisplay() const;
+    QRMKitReturnCode SetDisplay(const VELString& display);
+    VELString GetServiceTag() const;
+    QRMKitReturnCode SetServiceTag(const VELString& serviceTag);
+
+    // System id, id type, display, service tag, then the texts by the
+    // language-matching rule.
+    bool operator==(const QRMISystem& other) const;
+    bool operator!=(const QRMISystem& other) const;
+
+private:
+    unsigned int mSystemID;
+    QRMSystemIDTypeEnum mSystemIDType;
+    VELString mDisplay;
+    VELString mServiceTag;
+};
+
+#endif

@@ -1,0 +1,219 @@
+// Bundle selection and applicable updates.
+#include "QRMKitAPI.h"
+
+#include "QRMKit.h"
+#include "api/QRMIInventory.h"
+#include "api/QRMManifest.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+QRMSoftwareBundle* QRMKitAPI::GetApplicableBundle(QRMBundleTypeEnum bundleType) const
+{
+    const unsigned int systemID = GetSystemIDFromInventory();
+    std::vector<unsigned int> systemIDs;
+    for (QRMSoftwareBundle* bundle : mCatalogManifest.SoftwareBundles()) {
+        if (bundle->GetBundleType() != bundleType) {
+            continue;
+        }
+        systemIDs.clear();
+        bundle->GetSupportedSystemIDs(systemIDs);
+        if (std::find(systemIDs.begin(), systemIDs.end(), systemID) != systemIDs.end()) {
+            return bundle;
+        }
+    }
+    return nullptr;
+}
+
+unsigned int QRMKitAPI::GetGreatestBundleNumber(QRMBundleTypeEnum bundleType) const
+{
+    unsigned int greatest = 0;
+    for (const QRMSoftwareBundle* bundle : mCatalogManifest.SoftwareBundles()) {
+        if (bundle->GetBundleType() != bundleType) {
+            continue;
+        }
+        const VELString bundleID = bundle->GetBundleID();
+        const std::u16string& units = bundleID.GetUTF16String();
+        std::size_t dot = units.rfind(u'.');
+        unsigned int start = dot == std::u16string::npos ? 0 : static_cast<unsigned int>(dot + 1);
+        unsigned int number = bundleID.SubString(start, bundleID.GetLength() - start).GetIntValue(std::dec);
+        greatest = std::max(greatest, number);
+    }
+    return greatest;
+}
+
+namespace {
+
+// The file name of a package path: everything after its last "/".
+VELString FileName(const VELString& path)
+{
+    std::size_t slash = path.GetUTF16String().rfind(u'/');
+    if (slash == std::u16string::npos) {
+        return path;
+    }
+    unsigned int start = static_cast<unsigned int>(slash + 1);
+    return path.SubString(start, path.GetLength() - start);
+}
+
+struct VELStringHash {
+    std::size_t operator()(const VELString& text) const
+    {
+        return std::hash<std::u16string>()(text.GetUTF16String());
+    }
+};
+
+// One way a catalog component can match: a supported device (identified by
+// component id) or one PCI entry of it, reached through one package entry
+// of the bundle. Candidates are recorded in exactly the order in which a
+// walk over (packages, components in catalog order, supported devices, PCI
+// entries) would meet them, so the first-found rule among equal versions is
+// kept.
+struct Candidate {
+    QRMSoftwareComponent* component;
+    QRMComponentTypeValueEnum componentType;
+    unsigned int subVendorID;
+    unsigned int subDeviceID;
+};
+
+typedef std::vector<Candidate> Candidates;
+
+unsigned long long PCIKey(unsigned int vendorID, unsigned int deviceID)
+{
+    return (static_cast<unsigned long long>(vendorID) << 32) | deviceID;
+}
+
+// The indexes of one GetApplicableUpdates call: candidates by component id
+// and by PCI vendor and device id.
+struct CandidateIndex {
+    std::unordered_map<unsigned long long, Candidates> byComponentID;
+    std::unordered_map<unsigned long long, Candidates> byPCI;
+
+    CandidateIndex(const QRMSoftwareBundle& bundle, const QRMOwnedList<QRMSoftwareComponent>& components)
+    {
+        // The catalog's components by file name, in catalog order.
+        std::unordered_map<VELString, std::vector<QRMSoftwareComponent*>, VELStringHash> byFileName;
+        for (QRMSoftwareComponent* component : components) {
+            byFileName[FileName(component->GetPath())].push_back(component);
+        }
+        std::vector<QRMBundleContent> packages;
+        bundle.GetContents(packages);
+        std::vector<QRMDevice*> devices;
+        std::vector<QRMPCIInfo*> pciInfo;
+        for (const QRMBundleContent& package : packages) {
+            auto listed = byFileName.find(package.GetPath());
+            if (listed == byFileName.end()) {
+                continue;
+            }
+            for (QRMSoftwareComponent* component : listed->second) {
+                const QRMComponentTypeValueEnum type = component->GetComponentType().GetValue();
+                devices.clear();
+                component->GetSupportedDevices(devices);
+                for (const QRMDevice* device : devices) {
+                    byComponentID[device->GetComponentID()].push_back({component, type, 0, 0});
+                    pciInfo.clear();
+                    device->GetPCIInfo(pciInfo);
+                    for (const QRMPCIInfo* pci : pciInfo) {
+                        byPCI[PCIKey(pci->GetVendorID(), pci->GetDeviceID())].push_back(
+                            {component, type, pci->GetSubVendorID(), pci->GetSubDeviceID()});
+                    }
+                }
+            }
+        }
+    }
+};
+
+// Keeps the first match, replaced only by a match whose version is newer
+// (CompareVersion exactly 1).
+class NewestMatch {
+public:
+    explicit NewestMatch(const QRMKitAPI& api) : mAPI(api), mBest(nullptr) {}
+
+    void Offer(QRMSoftwareComponent* component)
+    {
+        if (mBest == nullptr) {
+            mBest = component;
+            mBestVersion = component->GetVendorVersion();
+            return;
+        }
+        if (component == mBest) {
+            return;  // a repeat compares equal to itself
+        }
+        VELString version = component->GetVendorVersion();
+        if (mAPI.CompareVersion(version, mBestVersion) == 1) {
+            mBest = component;
+            mBestVersion = std::move(version);
+        }
+    }
+
+    QRMSoftwareComponent* Best() const { return mBest; }
+
+private:
+    const QRMKitAPI& mAPI;
+    QRMSoftwareComponent* mBest;
+    VELString mBestVersion;
+};
+
+const Candidates* Find(const std::unordered_map<unsigned long long, Candidates>& index,
+                       unsigned long long key)
+{
+    auto found = index.find(key);
+    return found == index.end() ? nullptr : &found->second;
+}
+
+}  // namespace
+
+QRMKitReturnCode QRMKitAPI::GetApplicableUpdates(std::map<QRMIApplication*, QRMSoftwareComponent*>& updates,
+                                                 QRMOSArchitectureEnum /*osArchitecture*/,
+                                                 QRMBundleTypeEnum bundleType) const
+{
+    if (!mCatalogManifest.IsParsed() || !mInventory.IsParsed()) {
+        return QRM_KIT_FAILURE;
+    }
+    const QRMSoftwareBundle* bundle = GetApplicableBundle(bundleType);
+    if (bundle == nullptr) {
+        return QRM_KIT_FAILURE;
+    }
+    const CandidateIndex index(*bundle, mCatalogManifest.SoftwareComponents());
+
+    std::vector<QRMIApplication*> applications;
+    for (const QRMIDevice* device : mInventory.Devices()) {
+        const unsigned long long componentID = device->GetComponentID();
+        // Devices with this component id never receive updates.
+        if (componentID == 2331) {
+            continue;
+        }
+        const unsigned int vendorID = static_cast<unsigned int>(device->GetVendorID());
+        const unsigned int deviceID = static_cast<unsigned int>(device->GetDeviceID());
+        const unsigned int subVendorID = static_cast<unsigned int>(device->GetSubVendorID());
+        const unsigned int subDeviceID = static_cast<unsigned int>(device->GetSubDeviceID());
+        const bool byComponentID = componentID != 0;
+        const Candidates* candidates = byComponentID ? Find(index.byComponentID, componentID)
+                                                     : Find(index.byPCI, PCIKey(vendorID, deviceID));
+        if (candidates == nullptr) {
+            continue;
+        }
+        applications.clear();
+        device->GetApplications(applications);
+        for (QRMIApplication* application : applications) {
+            const QRMComponentTypeValueEnum type = application->GetComponentType();
+            NewestMatch newest(*this);
+            for (const Candidate& candidate : *candidates) {
+                if (candidate.componentType != type) {
+                    continue;
+                }
+                // A catalog PCI entry without sub-ids matches every sub-vendor
+                // and sub-device.
+                if (!byComponentID &&
+                    !(candidate.subDeviceID == subDeviceID && candidate.subVendorID == subVendorID) &&
+                    !(candidate.subVendorID == 0 && candidate.subDeviceID == 0)) {
+                    continue;
+                }
+                newest.Offer(candidate.component);
+            }
+            if (newest.Best() != nullptr) {
+                updates[application] = newest.Best();
+            }
+        }
+    }
+    return QRM_KIT_SUCCESS;
+}

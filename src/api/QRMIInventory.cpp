@@ -1,0 +1,42 @@
+#include "api/QRMIInventory.h"
+
+#include "model/QRMStore.h"
+
+QRMIInventory::QRMIInventory() : mLanguage(QRM_LANG_EN), mParsed(false) {}
+
+QRMKitReturnCode QRMIInventory::SetLanguage(QRMInventoryLanguageEnum language)
+{
+    return qrm::Store(mLanguage, language);
+}
+
+QRMKitReturnCode QRMIInventory::SetSchemaVersion(const VELString& schemaVersion)
+{
+    return qrm::Store(mSchemaVersion, schemaVersion);
+}
+
+QRMKitReturnCode QRMIInventory::SetTimeStamp(const VELTime& timeStamp) { return qrm::Store(mTimeStamp, timeStamp); }
+
+QRMKitReturnCode QRMIInventory::SetParsed() { return qrm::Store(mParsed, true); }
+
+QRMKitReturnCode QRMIInventory::AddOperatingSystem(const QRMOperatingSystem& os)
+{
+    return mOperatingSystems.AddUnique(os);
+}
+
+QRMKitReturnCode QRMIInventory::AddSystem(const QRMISystem& system) { return mSystems.AddUnique(system); }
+
+QRMKitReturnCode QRMIInventory::AddDevice(const QRMIDevice& device) { return mDevices.AddUnique(device); }
+
+bool QRMIInventory::IsParsed() const { return mParsed; }
+QRMInventoryLanguageEnum QRMIInventory::GetLanguage() const { return mLanguage; }
+VELString QRMIInventory::GetSchemaVersion() const { return mSchemaVersion; }
+VELTime QRMIInventory::GetTimeStamp() const { return mTimeStamp; }
+
+void QRMIInventory::AppendDevices(std::vector<QRMIDevice*>& devices) const { mDevices.AppendPointersTo(devices); }
+void QRMIInventory::CopySystems(std::vector<QRMISystem>& systems) const { mSystems.AppendCopiesTo(systems); }
+void QRMIInventory::CopyOperatingSystems(std::vector<QRMOperatingSystem>& oses) const
+{
+    mOperatingSystems.AppendCopiesTo(oses);
+}
+const QRMOwnedList<QRMISystem>& QRMIInventory::Systems() const { return mSystems; }
+const QRMOwnedList<QRMIDevice>& QRMIInventory::Devices() const { return mDevices; }

@@ -1,0 +1,283 @@
+// The inventory reader and the queries of the inventory store.
+//
+// Reading adds to the store: operating systems, systems and devices equal to
+// stored ones are not stored twice, and nothing is ever removed. Faults in
+// an "OperatingSystem" or "System" stop the whole read; faults in a "Device"
+// drop that device (or application) only.
+#include "QRMKitAPI.h"
+
+#include "api/QRMIInventory.h"
+#include "api/QRMXMLRead.h"
+
+#include <memory>
+
+using qrm::Failed;
+
+namespace {
+
+// Reads an attribute into `value` (set to empty first); true when present.
+bool ReadAttribute(const VELXMLNode& node, const char* name, VELString& value)
+{
+    value = VELString();
+    return node.GetAttributeValue(name, value) == VEL_SUCCESS;
+}
+
+// Adds every direct "Display" child that has a "lang" to `holder`, in order.
+// Returns the first QRM_KIT_FAILURE of an add, else QRM_KIT_SUCCESS.
+template <class Holder>
+QRMKitReturnCode AddLanguageDisplays(const VELXMLNode& node, Holder& holder)
+{
+    std::vector<VELXMLNode*> displays;
+    node.GetChildren("Display", displays);
+    VELString language;
+    for (const VELXMLNode* display : displays) {
+        if (ReadAttribute(*display, "lang", language) &&
+            Failed(holder.AddDisplayValue(language, display->GetValue()))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+    return QRM_KIT_SUCCESS;
+}
+
+// Stores an optional text attribute through `set` when it is present.
+template <class Set>
+QRMKitReturnCode SetIfPresent(const VELXMLNode& node, const char* name, Set set)
+{
+    VELString value;
+    return ReadAttribute(node, name, value) ? set(value) : QRM_KIT_SUCCESS;
+}
+
+// Stores an optional numeric attribute through `set` when it is present.
+template <class Set>
+QRMKitReturnCode SetNumberIfPresent(const VELXMLNode& node, const char* name,
+                                    std::ios_base& (*base)(std::ios_base&), Set set)
+{
+    VELString value;
+    return ReadAttribute(node, name, value) ? set(value.GetIntValue(base)) : QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& node, QRMIInventory& inventory)
+{
+    QRMOperatingSystem os;
+    VELString text;
+    QRMOSArchitectureEnum architecture = QRM_OS_ARCH_X86;
+    if (ReadAttribute(node, "osArch", text)) {
+        QRMOSArchitectureFromText(text, architecture);
+    }
+    if (Failed(os.SetArchitecture(architecture)) ||
+        Failed(SetIfPresent(node, "osCode", [&os](const VELString& v) { return os.SetCode(v); }))) {
+        return QRM_KIT_FAILURE;
+    }
+    if (!ReadAttribute(node, "osVendor", text) || Failed(os.SetVendor(text))) {
+        return QRM_KIT_FAILURE;
+    }
+    if (Failed(SetIfPresent(node, "majorVersion", [&os](const VELString& v) { return os.SetMajorVersion(v); })) ||
+        Failed(SetIfPresent(node, "minorVersion", [&os](const VELString& v) { return os.SetMinorVersion(v); })) ||
+        Failed(SetIfPresent(node, "spMajorVersion",
+                            [&os](const VELString& v) { return os.SetServicePackMajorVersion(v); })) ||
+        Failed(SetIfPresent(node, "spMinorVersion",
+                            [&os](const VELString& v) { return os.SetServicePackMinorVersion(v); }))) {
+        return QRM_KIT_FAILURE;
+    }
+    if (ReadAttribute(node, "preinstallationEnvironment", text)) {
+        if (!("true" == text || "false" == text) || Failed(os.SetPreInstallEnvironment("true" == text))) {
+            return QRM_KIT_FAILURE;
+        }
+    }
+    if (Failed(SetNumberIfPresent(node, "suiteMask", std::dec,
+                                  [&os](unsigned int mask) { return os.SetSuiteMask(mask); })) ||
+        Failed(AddLanguageDisplays(node, os)) || Failed(inventory.AddOperatingSystem(os))) {
+        return QRM_KIT_FAILURE;
+    }
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode ReadSystem(const VELXMLNode& node, QRMIInventory& inventory)
+{
+    QRMISystem system;
+    if (Failed(AddLanguageDisplays(node, system))) {
+        return QRM_KIT_FAILURE;
+    }
+    VELString text;
+    if (!ReadAttribute(node, "systemID", text) || Failed(system.SetSystemID(text.GetIntValue(std::hex)))) {
+        return QRM_KIT_FAILURE;
+    }
+    QRMSystemIDTypeEnum type = QRM_SYSTEMID_TYPE_BIOS;
+    if (ReadAttribute(node, "systemIDType", text)) {
+        QRMSystemIDTypeFromText(text, type);
+    }
+    if (Failed(SetIfPresent(node, "display", [&system](const VELString& v) { return system.SetDisplay(v); })) ||
+        Failed(SetIfPresent(node, "serviceTag",
+                            [&system](const VELString& v) { return system.SetServiceTag(v); })) ||
+        Failed(system.SetSystemIDType(type)) || Failed(inventory.AddSystem(system))) {
+        return QRM_KIT_FAILURE;
+    }
+    return QRM_KIT_SUCCESS;
+}
+
+// Reads one "Application" into the device's shared application object and
+// adds a copy of it to the device. Whatever this Application does not set is
+// carried over from the one before it: kept for compatibility, callers rely
+// on it. `componentType` carries over for the whole inventory read.
+void ReadApplication(const VELXMLNode& node, QRMComponentTypeValueEnum& componentType,
+                     QRMIApplication& application, QRMIDevice& device)
+{
+    AddLanguageDisplays(node, application);
+    VELString text;
+    if (!ReadAttribute(node, "componentType", text)) {
+        return;
+    }
+    // "SBDL" is no application type: like an unknown text it keeps the type
+    // of the previous application.
+    if ("SBDL" != text) {
+        QRMComponentTypeFromText(text, componentType);
+    }
+    if (Failed(application.SetComponentType(componentType))) {
+        return;
+    }
+    if (!ReadAttribute(node, "version", text) || Failed(application.SetVersion(text.ReplaceAll(" ", "")))) {
+        return;
+    }
+    if (!ReadAttribute(node, "display", text) || Failed(application.SetDisplay(text))) {
+        return;
+    }
+    if (ReadAttribute(node, "subComponentID", text) && Failed(application.SetSubComponentID(text))) {
+        return;
+    }
+    device.AddApplication(application);
+}
+
+// QRM_KIT_FAILURE when the device is dropped (no "display", or a failing
+// setter); otherwise the result of storing it.
+QRMKitReturnCode ReadDevice(const VELXMLNode& node, QRMComponentTypeValueEnum& componentType,
+                            QRMIInventory& inventory)
+{
+    QRMIDevice device;
+    AddLanguageDisplays(node, device);
+    QRMIApplication application;
+    std::vector<VELXMLNode*> applications;
+    node.GetChildren("Application", applications);
+    for (const VELXMLNode* applicationNode : applications) {
+        ReadApplication(*applicationNode, componentType, application, device);
+    }
+
+    auto asInt = [](unsigned int value) { return static_cast<int>(value); };
+    VELString display;
+    if (Failed(SetNumberIfPresent(node, "bus", std::dec, [&](unsigned int v) { return device.SetBus(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "device", std::dec,
+                                  [&](unsigned int v) { return device.SetDevice(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "function", std::dec,
+                                  [&](unsigned int v) { return device.SetFunction(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "componentID", std::dec,
+                                  [&](unsigned int v) { return device.SetComponentID(v); })) ||
+        !ReadAttribute(node, "display", display) || Failed(device.SetDisplay(display)) ||
+        Failed(SetNumberIfPresent(node, "vendorID", std::hex,
+                                  [&](unsigned int v) { return device.SetVendorID(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "deviceID", std::hex,
+                                  [&](unsigned int v) { return device.SetDeviceID(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "subDeviceID", std::hex,
+                                  [&](unsigned int v) { return device.SetSubDeviceID(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "subVendorID", std::hex,
+                                  [&](unsigned int v) { return device.SetSubVendorID(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "componentInstance", std::dec,
+                                  [&](unsigned int v) { return device.SetComponentInstance(asInt(v)); }))) {
+        return QRM_KIT_FAILURE;
+    }
+    return inventory.AddDevice(device);
+}
+
+}  // namespace
+
+QRMKitReturnCode QRMKitAPI::ParseInventory(const VELFile& file)
+{
+    if (!file.Exists()) {
+        return QRM_KIT_NOT_FOUND;
+    }
+    int errorCode = 0;
+    VELString errorText;
+    std::unique_ptr<VELXMLDocument> document(VELDOMParser::Parse(file, errorCode, errorText));
+    if (errorCode != 0 || !document) {
+        return QRM_KIT_FAILURE;
+    }
+    const VELXMLNode* root = document->GetRoot();
+    if (root == nullptr) {
+        return QRM_KIT_FAILURE;
+    }
+
+    VELString text;
+    if (!ReadAttribute(*root, "lang", text)) {
+        return QRM_KIT_FAILURE;
+    }
+    QRMInventoryLanguageEnum language = QRM_LANG_EN;
+    QRMInventoryLanguageFromText(text, language);
+    if (Failed(mInventory.SetLanguage(language)) ||
+        Failed(SetIfPresent(*root, "schemaVersion",
+                            [](const VELString& v) { return mInventory.SetSchemaVersion(v); })) ||
+        Failed(SetNumberIfPresent(*root, "timeStamp", std::dec,
+                                  [](unsigned int v) { return mInventory.SetTimeStamp(VELTime(v)); }))) {
+        return QRM_KIT_FAILURE;
+    }
+
+    std::vector<VELXMLNode*> children;
+    if (root->GetChildren(children) == VEL_FAILURE) {
+        return QRM_KIT_FAILURE;
+    }
+    // The application type carries over from one Application to the next
+    // for the whole read.
+    QRMComponentTypeValueEnum componentType = QRM_COMPONENT_SBDL;
+    QRMKitReturnCode status = QRM_KIT_SUCCESS;
+    for (const VELXMLNode* child : children) {
+        VELString name = child->GetName();
+        if ("OperatingSystem" == name) {
+            status = ReadOperatingSystem(*child, mInventory);
+            if (Failed(status)) {
+                return QRM_KIT_FAILURE;
+            }
+        } else if ("System" == name) {
+            status = ReadSystem(*child, mInventory);
+            if (Failed(status)) {
+                return QRM_KIT_FAILURE;
+            }
+        } else if ("Device" == name) {
+            // A dropped device is remembered as the last status: when no
+            // later entry succeeds, the read reports QRM_KIT_FAILURE.
+            status = ReadDevice(*child, componentType, mInventory);
+        }
+    }
+    document.reset();
+    if (Failed(status)) {
+        return QRM_KIT_FAILURE;
+    }
+    mInventory.SetParsed();
+    return QRM_KIT_SUCCESS;
+}
+
+QRMKitReturnCode QRMKitAPI::GetInventory(std::vector<QRMIDevice*>& devices) const
+{
+    if (!mInventory.IsParsed()) {
+        return QRM_KIT_FAILURE;
+    }
+    mInventory.AppendDevices(devices);
+    return QRM_KIT_SUCCESS;
+}
+
+unsigned int QRMKitAPI::GetSystemIDFromInventory() const
+{
+    const QRMOwnedList<QRMISystem>& systems = mInventory.Systems();
+    return systems.Size() == 1 ? systems.At(0)->GetSystemID() : 0;
+}
+
+void QRMKitAPI::GetInventoryOperatingSystems(std::vector<QRMOperatingSystem>& oses) const
+{
+    mInventory.CopyOperatingSystems(oses);
+}
+
+void QRMKitAPI::GetInventorySystems(std::vector<QRMISystem>& systems) const { mInventory.CopySystems(systems); }
+
+QRMInventoryLanguageEnum QRMKitAPI::GetInventoryLanguage() const { return mInventory.GetLanguage(); }
+
+VELString QRMKitAPI::GetInventorySchemaVersion() const { return mInventory.GetSchemaVersion(); }
+
+VELTime QRMKitAPI::GetInventoryTimeStamp() const { return mInventory.GetTimeStamp(); }
+
+bool QRMKitAPI::IsInventoryParsed() const { return mInventory.IsParsed(); }

@@ -1,0 +1,174 @@
+// The inventory's devices and their installed applications.
+#include "QRMIApplication.h"
+#include "QRMIDevice.h"
+#include "QRMISystem.h"
+
+#include "model/QRMStore.h"
+
+// ---- QRMIApplication
+
+QRMIApplication::QRMIApplication() : mComponentType(QRM_COMPONENT_SBDL) {}
+QRMIApplication::QRMIApplication(const QRMIApplication& other) = default;
+QRMIApplication& QRMIApplication::operator=(const QRMIApplication& other) = default;
+QRMIApplication::~QRMIApplication() = default;
+
+QRMComponentTypeValueEnum QRMIApplication::GetComponentType() const { return mComponentType; }
+QRMKitReturnCode QRMIApplication::SetComponentType(const QRMComponentTypeValueEnum& componentType)
+{
+    return qrm::Store(mComponentType, componentType);
+}
+VELString QRMIApplication::GetVersion() const { return mVersion; }
+QRMKitReturnCode QRMIApplication::SetVersion(const VELString& version) { return qrm::Store(mVersion, version); }
+VELString QRMIApplication::GetDisplay() const { return mDisplay; }
+QRMKitReturnCode QRMIApplication::SetDisplay(const VELString& display) { return qrm::Store(mDisplay, display); }
+VELString QRMIApplication::GetSubComponentID() const { return mSubComponentID; }
+QRMKitReturnCode QRMIApplication::SetSubComponentID(const VELString& subComponentID)
+{
+    return qrm::Store(mSubComponentID, subComponentID);
+}
+
+bool QRMIApplication::operator==(const QRMIApplication& other) const
+{
+    return mComponentType == other.mComponentType && mVersion == other.mVersion &&
+           mDisplay == other.mDisplay && mSubComponentID == other.mSubComponentID &&
+           HasSameTexts(other);
+}
+
+bool QRMIApplication::operator!=(const QRMIApplication& other) const { return !(*this == other); }
+
+// ---- QRMIDevice
+
+QRMIDevice::QRMIDevice()
+    : mBus(0), mDevice(0), mFunction(0), mComponentID(0), mVendorID(0), mDeviceID(0),
+      mSubDeviceID(0), mSubVendorID(0), mComponentInstance(0)
+{
+}
+
+QRMIDevice::QRMIDevice(const QRMIDevice& other) = default;
+
+QRMIDevice& QRMIDevice::operator=(const QRMIDevice& other)
+{
+    mDisplay = other.mDisplay;
+    mBus = other.mBus;
+    mDevice = other.mDevice;
+    mFunction = other.mFunction;
+    mComponentID = other.mComponentID;
+    mVendorID = other.mVendorID;
+    mDeviceID = other.mDeviceID;
+    mSubDeviceID = other.mSubDeviceID;
+    mSubVendorID = other.mSubVendorID;
+    mComponentInstance = other.mComponentInstance;
+    QRMDisplayList::operator=(other);
+    return *this;
+}
+
+QRMIDevice::~QRMIDevice() = default;
+
+int QRMIDevice::GetBus() const { return mBus; }
+QRMKitReturnCode QRMIDevice::SetBus(int bus) { return qrm::Store(mBus, bus); }
+int QRMIDevice::GetDevice() const { return mDevice; }
+QRMKitReturnCode QRMIDevice::SetDevice(int device) { return qrm::Store(mDevice, device); }
+int QRMIDevice::GetFunction() const { return mFunction; }
+QRMKitReturnCode QRMIDevice::SetFunction(int function) { return qrm::Store(mFunction, function); }
+int QRMIDevice::GetVendorID() const { return mVendorID; }
+QRMKitReturnCode QRMIDevice::SetVendorID(int vendorID) { return qrm::Store(mVendorID, vendorID); }
+int QRMIDevice::GetDeviceID() const { return mDeviceID; }
+QRMKitReturnCode QRMIDevice::SetDeviceID(int deviceID) { return qrm::Store(mDeviceID, deviceID); }
+int QRMIDevice::GetSubVendorID() const { return mSubVendorID; }
+QRMKitReturnCode QRMIDevice::SetSubVendorID(int subVendorID) { return qrm::Store(mSubVendorID, subVendorID); }
+int QRMIDevice::GetSubDeviceID() const { return mSubDeviceID; }
+QRMKitReturnCode QRMIDevice::SetSubDeviceID(int subDeviceID) { return qrm::Store(mSubDeviceID, subDeviceID); }
+int QRMIDevice::GetComponentInstance() const { return mComponentInstance; }
+QRMKitReturnCode QRMIDevice::SetComponentInstance(int componentInstance)
+{
+    return qrm::Store(mComponentInstance, componentInstance);
+}
+unsigned long long QRMIDevice::GetComponentID() const { return mComponentID; }
+QRMKitReturnCode QRMIDevice::SetComponentID(unsigned long long componentID)
+{
+    return qrm::Store(mComponentID, componentID);
+}
+VELString QRMIDevice::GetDisplay() const { return mDisplay; }
+QRMKitReturnCode QRMIDevice::SetDisplay(const VELString& display) { return qrm::Store(mDisplay, display); }
+
+void QRMIDevice::GetApplications(std::vector<QRMIApplication*>& out) const
+{
+    mApplications.AppendPointersTo(out);
+}
+
+QRMKitReturnCode QRMIDevice::AddApplication(const QRMIApplication& application)
+{
+    return mApplications.AddUnique(application);
+}
+
+QRMKitReturnCode QRMIDevice::RemoveApplication(const QRMIApplication& application)
+{
+    // After taking an entry out, the walk moves one place on from where it
+    // stood, so the entry that moved into the freed place is not examined.
+    std::size_t position = 0;
+    while (position < mApplications.Size()) {
+        if (*mApplications.At(position) == application) {
+            mApplications.Retire(position);
+        }
+        ++position;
+    }
+    return QRM_KIT_NOT_FOUND;
+}
+
+namespace {
+
+// True when some application of `left` equals some application of `right`.
+bool ShareAnApplication(const QRMOwnedList<QRMIApplication>& left,
+                        const QRMOwnedList<QRMIApplication>& right)
+{
+    for (const QRMIApplication* a : left) {
+        for (const QRMIApplication* b : right) {
+            if (*a == *b) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+bool QRMIDevice::operator==(const QRMIDevice& other) const
+{
+    return mDisplay == other.mDisplay && mBus == other.mBus && mDevice == other.mDevice &&
+           mFunction == other.mFunction && mComponentID == other.mComponentID &&
+           mVendorID == other.mVendorID && mDeviceID == other.mDeviceID &&
+           mSubDeviceID == other.mSubDeviceID && mSubVendorID == other.mSubVendorID &&
+           mComponentInstance == other.mComponentInstance && TextsAgree(other) &&
+           !ShareAnApplication(mApplications, other.mApplications) &&
+           !ShareAnApplication(other.mApplications, mApplications);
+}
+
+bool QRMIDevice::operator!=(const QRMIDevice& other) const { return !(*this == other); }
+
+// ---- QRMISystem
+
+QRMISystem::QRMISystem() : mSystemID(0), mSystemIDType(QRM_SYSTEMID_TYPE_BIOS) {}
+QRMISystem::QRMISystem(const QRMISystem& other) = default;
+QRMISystem& QRMISystem::operator=(const QRMISystem& other) = default;
+QRMISystem::~QRMISystem() = default;
+
+unsigned int QRMISystem::GetSystemID() const { return mSystemID; }
+QRMKitReturnCode QRMISystem::SetSystemID(unsigned int systemID) { return qrm::Store(mSystemID, systemID); }
+QRMSystemIDTypeEnum QRMISystem::GetSystemIDType() const { return mSystemIDType; }
+QRMKitReturnCode QRMISystem::SetSystemIDType(QRMSystemIDTypeEnum systemIDType)
+{
+    return qrm::Store(mSystemIDType, systemIDType);
+}
+VELString QRMISystem::GetDisplay() const { return mDisplay; }
+QRMKitReturnCode QRMISystem::SetDisplay(const VELString& display) { return qrm::Store(mDisplay, display); }
+VELString QRMISystem::GetServiceTag() const { return mServiceTag; }
+QRMKitReturnCode QRMISystem::SetServiceTag(const VELString& serviceTag) { return qrm::Store(mServiceTag, serviceTag); }
+
+bool QRMISystem::operator==(const QRMISystem& other) const
+{
+    return mSystemID == other.mSystemID && mSystemIDType == other.mSystemIDType &&
+           mDisplay == other.mDisplay && mServiceTag == other.mServiceTag && HasSameTexts(other);
+}
+
+bool QRMISystem::operator!=(const QRMISystem& other) const { return !(*this == other); }

@@ -1,0 +1,206 @@
+// Operating systems and target systems.
+#include "QRMBrand.h"
+#include "QRMModel.h"
+#include "QRMOperatingSystem.h"
+#include "QRMSupportedOperatingSystems.h"
+#include "QRMSupportedSystems.h"
+
+#include "model/QRMStore.h"
+
+// ---- QRMOperatingSystem
+
+QRMOperatingSystem::QRMOperatingSystem()
+    : mArchitecture(QRM_OS_ARCH_X86), mPreInstallEnvironment(false), mSuiteMask(0)
+{
+}
+QRMOperatingSystem::QRMOperatingSystem(const QRMOperatingSystem& other) = default;
+QRMOperatingSystem& QRMOperatingSystem::operator=(const QRMOperatingSystem& other) = default;
+QRMOperatingSystem::~QRMOperatingSystem() = default;
+
+VELString QRMOperatingSystem::GetCode() const { return mCode; }
+QRMKitReturnCode QRMOperatingSystem::SetCode(const VELString& code) { return qrm::Store(mCode, code); }
+VELString QRMOperatingSystem::GetVendor() const { return mVendor; }
+QRMKitReturnCode QRMOperatingSystem::SetVendor(const VELString& vendor) { return qrm::Store(mVendor, vendor); }
+QRMOSArchitectureEnum QRMOperatingSystem::GetArchitecture() const { return mArchitecture; }
+QRMKitReturnCode QRMOperatingSystem::SetArchitecture(QRMOSArchitectureEnum architecture)
+{
+    return qrm::Store(mArchitecture, architecture);
+}
+VELString QRMOperatingSystem::GetMajorVersion() const { return mMajorVersion; }
+QRMKitReturnCode QRMOperatingSystem::SetMajorVersion(const VELString& version)
+{
+    return qrm::Store(mMajorVersion, version);
+}
+VELString QRMOperatingSystem::GetMinorVersion() const { return mMinorVersion; }
+QRMKitReturnCode QRMOperatingSystem::SetMinorVersion(const VELString& version)
+{
+    return qrm::Store(mMinorVersion, version);
+}
+VELString QRMOperatingSystem::GetServicePackMajorVersion() const { return mServicePackMajorVersion; }
+QRMKitReturnCode QRMOperatingSystem::SetServicePackMajorVersion(const VELString& version)
+{
+    return qrm::Store(mServicePackMajorVersion, version);
+}
+VELString QRMOperatingSystem::GetServicePackMinorVersion() const { return mServicePackMinorVersion; }
+QRMKitReturnCode QRMOperatingSystem::SetServicePackMinorVersion(const VELString& version)
+{
+    return qrm::Store(mServicePackMinorVersion, version);
+}
+bool QRMOperatingSystem::IsForPreInstallEnvironment() const { return mPreInstallEnvironment; }
+QRMKitReturnCode QRMOperatingSystem::SetPreInstallEnvironment(bool preInstallEnvironment)
+{
+    return qrm::Store(mPreInstallEnvironment, preInstallEnvironment);
+}
+unsigned long long QRMOperatingSystem::GetSuiteMask() const { return mSuiteMask; }
+QRMKitReturnCode QRMOperatingSystem::SetSuiteMask(unsigned long long suiteMask)
+{
+    return qrm::Store(mSuiteMask, suiteMask);
+}
+
+QRMKitReturnCode QRMOperatingSystem::AddNumericTag(unsigned int tag)
+{
+    return mNumericTags.AddUnique(tag);
+}
+
+void QRMOperatingSystem::GetNumericTags(std::vector<unsigned int>& out) const
+{
+    mNumericTags.AppendCopiesTo(out);
+}
+
+bool QRMOperatingSystem::operator==(const QRMOperatingSystem& other) const
+{
+    return mCode == other.mCode && mVendor == other.mVendor &&
+           mArchitecture == other.mArchitecture && mMajorVersion == other.mMajorVersion &&
+           mMinorVersion == other.mMinorVersion &&
+           mServicePackMajorVersion == other.mServicePackMajorVersion &&
+           mServicePackMinorVersion == other.mServicePackMinorVersion &&
+           mPreInstallEnvironment == other.mPreInstallEnvironment &&
+           mSuiteMask == other.mSuiteMask && mNumericTags.AllPairsEqual(other.mNumericTags) &&
+           HasSameTexts(other);
+}
+
+bool QRMOperatingSystem::operator!=(const QRMOperatingSystem& other) const { return !(*this == other); }
+
+// ---- QRMSupportedOperatingSystems
+
+QRMSupportedOperatingSystems::QRMSupportedOperatingSystems() = default;
+QRMSupportedOperatingSystems::QRMSupportedOperatingSystems(const QRMSupportedOperatingSystems& other) = default;
+QRMSupportedOperatingSystems& QRMSupportedOperatingSystems::operator=(
+    const QRMSupportedOperatingSystems& other) = default;
+QRMSupportedOperatingSystems::~QRMSupportedOperatingSystems() = default;
+
+void QRMSupportedOperatingSystems::GetOSes(std::vector<QRMOperatingSystem>& out) const
+{
+    mOperatingSystems.AppendCopiesTo(out);
+}
+
+QRMKitReturnCode QRMSupportedOperatingSystems::AddOS(QRMOperatingSystem& os)
+{
+    return mOperatingSystems.AddUnique(os);
+}
+
+QRMKitReturnCode QRMSupportedOperatingSystems::RemoveOS(QRMOperatingSystem& os)
+{
+    return mOperatingSystems.RemoveFirst(os);
+}
+
+bool QRMSupportedOperatingSystems::operator==(const QRMSupportedOperatingSystems& other) const
+{
+    return mOperatingSystems.AllPairsEqual(other.mOperatingSystems);
+}
+
+bool QRMSupportedOperatingSystems::operator!=(const QRMSupportedOperatingSystems& other) const
+{
+    return !(*this == other);
+}
+
+// ---- QRMModel
+
+QRMModel::QRMModel() : mSystemID(0), mSecondID(0), mThirdID(0) {}
+QRMModel::QRMModel(const QRMModel& other) = default;
+QRMModel& QRMModel::operator=(const QRMModel& other) = default;
+QRMModel::~QRMModel() = default;
+
+unsigned int QRMModel::GetSystemID() const { return mSystemID; }
+QRMKitReturnCode QRMModel::SetSystemID(unsigned int systemID) { return qrm::Store(mSystemID, systemID); }
+unsigned int QRMModel::GetSecondID() const { return mSecondID; }
+QRMKitReturnCode QRMModel::SetSecondID(unsigned int secondID) { return qrm::Store(mSecondID, secondID); }
+unsigned int QRMModel::GetThirdID() const { return mThirdID; }
+QRMKitReturnCode QRMModel::SetThirdID(unsigned int thirdID) { return qrm::Store(mThirdID, thirdID); }
+
+QRMKitReturnCode QRMModel::AddSubBrand(const QRMBrand& brand)
+{
+    return mSubBrands.AddUnique(brand);
+}
+
+void QRMModel::GetSubBrands(std::vector<QRMBrand*>& out) const { mSubBrands.AppendPointersTo(out); }
+
+// ---- QRMBrand
+
+QRMBrand::QRMBrand() : mKey(0) {}
+QRMBrand::QRMBrand(const QRMBrand& other) = default;
+QRMBrand& QRMBrand::operator=(const QRMBrand& other) = default;
+QRMBrand::~QRMBrand() = default;
+
+unsigned int QRMBrand::GetKey() const { return mKey; }
+QRMKitReturnCode QRMBrand::SetKey(const VELString& key) { return qrm::Store(mKey, key.GetIntValue(std::dec)); }
+VELString QRMBrand::GetPrefix() const { return mPrefix; }
+QRMKitReturnCode QRMBrand::SetPrefix(const VELString& prefix) { return qrm::Store(mPrefix, prefix); }
+
+QRMKitReturnCode QRMBrand::AddModel(const QRMModel& model)
+{
+    mModels.Append(model);
+    return QRM_KIT_SUCCESS;
+}
+
+void QRMBrand::GetModels(std::vector<QRMModel*>& out) const { mModels.AppendPointersTo(out); }
+
+namespace {
+
+// Every model of `left` that shares system id and second id with a model of
+// `right` must be that very model.
+bool SameIdentifiedModels(const QRMOwnedList<QRMModel>& left, const QRMOwnedList<QRMModel>& right)
+{
+    for (const QRMModel* a : left) {
+        for (const QRMModel* b : right) {
+            if (b->GetSystemID() == a->GetSystemID() && b->GetSecondID() == a->GetSecondID() &&
+                a != b) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+bool QRMBrand::operator==(const QRMBrand& other) const
+{
+    return mKey == other.mKey && mPrefix == other.mPrefix && HasSameTexts(other) &&
+           mModels.Size() == other.mModels.Size() &&
+           SameIdentifiedModels(mModels, other.mModels) &&
+           SameIdentifiedModels(other.mModels, mModels);
+}
+
+bool QRMBrand::operator!=(const QRMBrand& other) const { return !(*this == other); }
+
+// ---- QRMSupportedSystems
+
+QRMSupportedSystems::QRMSupportedSystems() : mDisplay(false) {}
+QRMSupportedSystems::QRMSupportedSystems(const QRMSupportedSystems& other) = default;
+QRMSupportedSystems& QRMSupportedSystems::operator=(const QRMSupportedSystems& other) = default;
+QRMSupportedSystems::~QRMSupportedSystems() = default;
+
+QRMKitReturnCode QRMSupportedSystems::AddBrand(const QRMBrand& brand) { return mBrands.AddUnique(brand); }
+
+void QRMSupportedSystems::GetBrands(std::vector<QRMBrand*>& out) const { mBrands.AppendPointersTo(out); }
+
+bool QRMSupportedSystems::GetDisplay() const { return mDisplay; }
+QRMKitReturnCode QRMSupportedSystems::SetDisplay(bool display) { return qrm::Store(mDisplay, display); }
+
+bool QRMSupportedSystems::operator==(const QRMSupportedSystems& other) const
+{
+    return mDisplay == other.mDisplay && mBrands.AllPairsEqual(other.mBrands);
+}
+
+bool QRMSupportedSystems::operator!=(const QRMSupportedSystems& other) const { return !(*this == other); }
