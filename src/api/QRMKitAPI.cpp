@@ -79,18 +79,11 @@ QRMKitReturnCode QRMKitAPI::Parse() { return QRM_KIT_SUCCESS; }
 QRMKitReturnCode QRMKitAPI::Parse(const VELFile& file)
 {
     mCatalogManifest.Clear();
-    if (!file.Exists()) {
-        return QRM_KIT_NOT_FOUND;
-    }
-    int errorCode = 0;
-    VELString errorText;
-    std::unique_ptr<VELXMLDocument> document(VELDOMParser::Parse(file, errorCode, errorText));
-    if (errorCode != 0 || !document) {
-        return QRM_KIT_FAILURE;
-    }
-    VELXMLNode* root = document->GetRoot();
-    if (root == nullptr) {
-        return QRM_KIT_FAILURE;
+    std::unique_ptr<VELXMLDocument> document;
+    VELXMLNode* root = nullptr;
+    QRMKitReturnCode opened = qrm::OpenDocument(file, document, root);
+    if (opened != QRM_KIT_SUCCESS) {
+        return opened;
     }
 
     if (mCatalogManifest.SetBaseLocation(qrm::AttributeOrEmpty(*root, "baseLocation")) ==

@@ -1,5 +1,7 @@
 #include "api/QRMManifest.h"
 
+#include "model/QRMStore.h"
+
 namespace {
 
 void CopyInto(const QRMManifest::TextMap& from, QRMManifest::TextMap& to)
@@ -26,40 +28,20 @@ QRMKitReturnCode QRMManifest::Clear()
     return QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode QRMManifest::SetBaseLocation(const VELString& value)
-{
-    mBaseLocation = value;
-    return QRM_KIT_SUCCESS;
-}
+QRMKitReturnCode QRMManifest::SetBaseLocation(const VELString& value) { return qrm::Store(mBaseLocation, value); }
 
-QRMKitReturnCode QRMManifest::SetReleaseID(const VELString& value)
-{
-    mReleaseID = value;
-    return QRM_KIT_SUCCESS;
-}
+QRMKitReturnCode QRMManifest::SetReleaseID(const VELString& value) { return qrm::Store(mReleaseID, value); }
 
-QRMKitReturnCode QRMManifest::SetVersion(const VELString& value)
-{
-    mVersion = value;
-    return QRM_KIT_SUCCESS;
-}
+QRMKitReturnCode QRMManifest::SetVersion(const VELString& value) { return qrm::Store(mVersion, value); }
 
-QRMKitReturnCode QRMManifest::SetDateTime(const VELTime& value)
-{
-    mDateTime = value;
-    return QRM_KIT_SUCCESS;
-}
+QRMKitReturnCode QRMManifest::SetDateTime(const VELTime& value) { return qrm::Store(mDateTime, value); }
 
 VELString QRMManifest::GetBaseLocation() const { return mBaseLocation; }
 VELString QRMManifest::GetReleaseID() const { return mReleaseID; }
 VELString QRMManifest::GetVersion() const { return mVersion; }
 VELTime QRMManifest::GetDateTime() const { return mDateTime; }
 
-QRMKitReturnCode QRMManifest::SetParsed()
-{
-    mParsed = true;
-    return QRM_KIT_SUCCESS;
-}
+QRMKitReturnCode QRMManifest::SetParsed() { return qrm::Store(mParsed, true); }
 
 bool QRMManifest::IsParsed() const { return mParsed; }
 

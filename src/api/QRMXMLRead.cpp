@@ -2,6 +2,23 @@
 
 namespace qrm {
 
+QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocument>& document,
+                              VELXMLNode*& root)
+{
+    if (!file.Exists()) {
+        return QRM_KIT_NOT_FOUND;
+    }
+    int errorCode = 0;
+    VELString errorText;
+    document.reset(VELDOMParser::Parse(file, errorCode, errorText));
+    if (errorCode != 0 || !document) {
+        document.reset();
+        return QRM_KIT_FAILURE;
+    }
+    root = document->GetRoot();
+    return root != nullptr ? QRM_KIT_SUCCESS : QRM_KIT_FAILURE;
+}
+
 VELXMLNode* SingleChild(const VELXMLNode& node, const char* name)
 {
     std::vector<VELXMLNode*> children;
