@@ -1,72 +1,194 @@
-// qrmkit: which catalog packages update the applications of an inventory.
+// qrmkit: the command-line face of QRMKit. Reads an update catalog and a
+// computer's inventory and tells which packages update which installed
+// applications, which bundle applies, and what the two documents hold.
 //
-//   qrmkit CATALOG INVENTORY [BUNDLE_TYPE]
-#include <QRMKit.h>
+// Exit status: 0 success, 1 bad usage, 2 the request could not be carried
+// out (a file missing or unreadable, no applicable bundle, ...).
+#include "Commands.h"
+#include "Library.h"
 
-#include <iomanip>
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <functional>
 #include <iostream>
+#include <string>
+
+#ifndef QRMKIT_TOOL_VERSION
+#define QRMKIT_TOOL_VERSION "unknown"
+#endif
 
 namespace {
 
-const char* Describe(QRMKitReturnCode code)
+constexpr int kExitUsage = 1;
+constexpr int kExitFailure = 2;
+
+struct Options {
+    std::string catalog;
+    std::string inventory;
+    std::string bundleType = "auto";
+    std::string osCode;
+    std::string first;
+    std::string second;
+    bool json = false;
+};
+
+CLI::App* AddCommand(CLI::App& app, const char* name, const char* description, const char* example)
 {
-    switch (code) {
-    case QRM_KIT_SUCCESS: return "success";
-    case QRM_KIT_FAILURE: return "the file is not a readable document of that kind";
-    case QRM_KIT_ALREADY_EXISTS: return "an entry is already present";
-    case QRM_KIT_NOT_FOUND: return "the file does not exist";
-    case QRM_KIT_ELEMENT_MISSING: return "an entry lacks a required element";
+    CLI::App* command = app.add_subcommand(name, description);
+    command->footer(std::string("Example:\n  ") + example);
+    return command;
+}
+
+void AddCatalog(CLI::App* command, Options& options)
+{
+    command->add_option("--catalog", options.catalog, "The update catalog (XML)")->required()->type_name("FILE");
+}
+
+void AddInventory(CLI::App* command, Options& options)
+{
+    command->add_option("--inventory", options.inventory, "The computer's inventory (XML)")
+        ->required()
+        ->type_name("FILE");
+}
+
+void AddJson(CLI::App* command, Options& options)
+{
+    command->add_flag("--json", options.json, "Print a JSON document instead of a table");
+}
+
+std::string Emit(const qrmtool::Json& document, bool json, std::string (*render)(const qrmtool::Json&))
+{
+    if (json) {
+        return document.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
     }
-    return "unknown error";
+    return render(document);
+}
+
+int Run(int argc, char** argv)
+{
+    Options options;
+    CLI::App app("qrmkit: which catalog packages update the applications of a computer's inventory, and what an "
+                 "update catalog and an inventory hold.",
+                 "qrmkit");
+    app.set_version_flag("--version", std::string("qrmkit ") + QRMKIT_TOOL_VERSION, "Print the version and exit");
+    app.require_subcommand(1);
+    app.failure_message([](const CLI::App*, const CLI::Error& error) {
+        return "qrmkit: " + std::string(error.what()) +
+               "\nRun 'qrmkit --help' or 'qrmkit COMMAND --help' for more information.\n";
+    });
+    app.footer("Example:\n  qrmkit updates --catalog catalog.xml --inventory inventory.xml\n\n"
+               "Run 'qrmkit COMMAND --help' for the options of a command.\n"
+               "Exit status: 0 success, 1 bad usage, 2 failure (file missing or unreadable, no applicable bundle, "
+               "...).");
+
+    std::function<std::string()> action;
+
+    CLI::App* updates = AddCommand(app, "updates", "List the packages that update the inventory's applications",
+                                   "qrmkit updates --catalog catalog.xml --inventory inventory.xml --bundle-type BTW64");
+    AddCatalog(updates, options);
+    AddInventory(updates, options);
+    updates
+        ->add_option("--bundle-type", options.bundleType,
+                     "The bundle type to take the packages from; auto: the first type, in the order "
+                     "listed, with a bundle for this system")
+        ->capture_default_str()
+        ->check(CLI::IsMember({"auto", "BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND"}))
+        ->type_name("TYPE");
+    AddJson(updates, options);
+    updates->callback([&] {
+        action = [&] {
+            return Emit(qrmtool::CollectUpdates(options.catalog, options.inventory, options.bundleType), options.json,
+                        qrmtool::RenderUpdates);
+        };
+    });
+
+    CLI::App* bundle = AddCommand(app, "bundle", "Show the applicable bundle of every bundle type",
+                                  "qrmkit bundle --catalog catalog.xml --inventory inventory.xml");
+    AddCatalog(bundle, options);
+    AddInventory(bundle, options);
+    AddJson(bundle, options);
+    bundle->callback([&] {
+        action = [&] {
+            return Emit(qrmtool::CollectBundles(options.catalog, options.inventory), options.json,
+                        qrmtool::RenderBundles);
+        };
+    });
+
+    CLI::App* catalog = AddCommand(app, "catalog", "Summarise an update catalog",
+                                   "qrmkit catalog --catalog catalog.xml --json");
+    AddCatalog(catalog, options);
+    AddJson(catalog, options);
+    catalog->callback([&] {
+        action = [&] { return Emit(qrmtool::CollectCatalog(options.catalog), options.json, qrmtool::RenderCatalog); };
+    });
+
+    CLI::App* inventory = AddCommand(app, "inventory", "Show the system, operating systems and devices of an inventory",
+                                     "qrmkit inventory --inventory inventory.xml");
+    AddInventory(inventory, options);
+    AddJson(inventory, options);
+    inventory->callback([&] {
+        action = [&] {
+            return Emit(qrmtool::CollectInventory(options.inventory), options.json, qrmtool::RenderInventory);
+        };
+    });
+
+    CLI::App* categories = AddCommand(app, "categories", "List the catalog's categories with their codes and acronyms",
+                                      "qrmkit categories --catalog catalog.xml");
+    AddCatalog(categories, options);
+    AddJson(categories, options);
+    categories->callback([&] {
+        action = [&] {
+            return Emit(qrmtool::CollectCategories(options.catalog), options.json, qrmtool::RenderCategories);
+        };
+    });
+
+    CLI::App* collector = AddCommand(app, "collector",
+                                     "Print where the inventory collector for an operating system lies",
+                                     "qrmkit collector --catalog catalog.xml --os-code W22");
+    AddCatalog(collector, options);
+    collector->add_option("--os-code", options.osCode, "The operating system code (as in the catalog)")
+        ->required()
+        ->type_name("CODE");
+    collector->callback([&] { action = [&] { return qrmtool::FindCollector(options.catalog, options.osCode); }; });
+
+    CLI::App* compare = AddCommand(app, "compare", "Compare two version texts", "qrmkit compare 1.2.10 1.2.9");
+    compare->add_option("V1", options.first, "The first version")->required();
+    compare->add_option("V2", options.second, "The second version")->required();
+    compare->callback(
+        [&] { action = [&] { return qrmtool::CompareVersions(options.first, options.second); }; });
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        int status = app.exit(error);
+        return status == 0 ? 0 : kExitUsage;
+    }
+    if (!action) {
+        return kExitUsage;
+    }
+    // Everything is gathered before anything is printed.
+    std::string output = action();
+    std::cout << output << std::flush;
+    if (!std::cout) {
+        std::cerr << "qrmkit: cannot write to standard output\n";
+        return kExitFailure;
+    }
+    return 0;
 }
 
 }  // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc < 3 || argc > 4) {
-        std::cerr << "usage: qrmkit CATALOG INVENTORY [BUNDLE_TYPE]\n";
-        return 1;
+    try {
+        return Run(argc, argv);
+    } catch (const qrmtool::ToolError& error) {
+        std::cerr << "qrmkit: " << error.what() << "\n";
+    } catch (const std::exception& error) {
+        std::cerr << "qrmkit: internal error: " << error.what() << "\n";
+    } catch (...) {
+        std::cerr << "qrmkit: internal error\n";
     }
-    QRMBundleTypeEnum bundleType = QRM_BUNDLE_BTW64;
-    if (argc == 4 && !QRMBundleTypeFromText(VELString(argv[3]), bundleType)) {
-        std::cerr << "qrmkit: unknown bundle type " << argv[3] << "\n";
-        return 1;
-    }
-    QRMKitAPI* api = QRMKitAPI::Instance();
-    QRMKitReturnCode code = api->Parse(VELFile(argv[1]));
-    if (code != QRM_KIT_SUCCESS) {
-        std::cerr << "qrmkit: " << argv[1] << ": " << Describe(code) << "\n";
-        return 2;
-    }
-    code = api->ParseInventory(VELFile(argv[2]));
-    if (code != QRM_KIT_SUCCESS) {
-        std::cerr << "qrmkit: " << argv[2] << ": " << Describe(code) << "\n";
-        return 2;
-    }
-    std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
-    if (api->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, bundleType) != QRM_KIT_SUCCESS) {
-        std::cerr << "qrmkit: no " << QRMBundleTypeText(bundleType) << " bundle applies to this system\n";
-        return 2;
-    }
-    std::vector<QRMIDevice*> devices;
-    api->GetInventory(devices);
-    std::cout << std::left << std::setw(34) << "application" << std::setw(12) << "installed" << std::setw(12)
-              << "available" << "package\n";
-    for (const QRMIDevice* device : devices) {
-        std::vector<QRMIApplication*> applications;
-        device->GetApplications(applications);
-        for (QRMIApplication* application : applications) {
-            auto update = updates.find(application);
-            if (update == updates.end()) {
-                continue;
-            }
-            std::cout << std::setw(34) << application->GetDisplay().GetUTF8String() << std::setw(12)
-                      << application->GetVersion().GetUTF8String() << std::setw(12)
-                      << update->second->GetVendorVersion().GetUTF8String()
-                      << api->GetBaseLocation().GetUTF8String() << "/" << update->second->GetPath().GetUTF8String()
-                      << "\n";
-        }
-    }
-    return 0;
+    return kExitFailure;
 }

@@ -1,0 +1,591 @@
+// Runs the qrmkit tool as a child process on the example catalog and
+// inventory (and on broken copies of them) and checks what it prints and
+// the exit status it returns.
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+const std::string kTool = QRMKIT_TOOL;
+const std::string kExamples = QRMKIT_EXAMPLES_DIR;
+const std::string kCatalog = kExamples + "/catalog.xml";
+const std::string kInventory = kExamples + "/inventory.xml";
+
+struct Result {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+std::string ReadFile(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+void WriteFile(const std::string& path, const std::string& text)
+{
+    std::ofstream out(path, std::ios::binary);
+    out << text;
+}
+
+std::string Replace(std::string text, const std::string& what, const std::string& with)
+{
+    std::size_t at = text.find(what);
+    if (at != std::string::npos) {
+        text.replace(at, what.size(), with);
+    }
+    return text;
+}
+
+std::vector<std::string> Lines(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::size_t CodePoints(const std::string& line)
+{
+    std::size_t count = 0;
+    for (char c : line) {
+        if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) {
+            ++count;
+        }
+    }
+    return count;
+}
+
+// The first line that contains every one of the texts ("" when none does).
+std::string LineWith(const std::string& text, const std::vector<std::string>& parts)
+{
+    for (const std::string& line : Lines(text)) {
+        bool all = true;
+        for (const std::string& part : parts) {
+            all = all && line.find(part) != std::string::npos;
+        }
+        if (all) {
+            return line;
+        }
+    }
+    return std::string();
+}
+
+bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+class ToolTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string pattern = (std::filesystem::temp_directory_path() / "qrmkit-tool-XXXXXX").string();
+        std::vector<char> buffer(pattern.begin(), pattern.end());
+        buffer.push_back('\0');
+        ASSERT_NE(mkdtemp(buffer.data()), nullptr);
+        mDir = buffer.data();
+    }
+
+    void TearDown() override
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(mDir, ignored);
+    }
+
+    std::string Path(const std::string& name) const { return mDir + "/" + name; }
+
+    // A copy of an example file with one text replaced, in the test's directory.
+    std::string Variant(const std::string& source, const std::string& name, const std::string& what,
+                        const std::string& with) const
+    {
+        std::string text = ReadFile(source);
+        EXPECT_TRUE(Contains(text, what)) << what;
+        std::string path = Path(name);
+        WriteFile(path, Replace(text, what, with));
+        return path;
+    }
+
+    // Runs the tool with the arguments; standard output and error go to
+    // files in the test's directory. Every run is checked for the library's
+    // console message, which the tool must never let through.
+    Result Run(const std::vector<std::string>& args)
+    {
+        const std::string outPath = Path("stdout.txt");
+        const std::string errPath = Path("stderr.txt");
+        pid_t child = fork();
+        if (child == 0) {
+            int out = open(outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            int err = open(errPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            if (out < 0 || err < 0 || dup2(out, 1) < 0 || dup2(err, 2) < 0) {
+                _exit(127);
+            }
+            std::vector<char*> argv;
+            argv.push_back(const_cast<char*>(kTool.c_str()));
+            for (const std::string& arg : args) {
+                argv.push_back(const_cast<char*>(arg.c_str()));
+            }
+            argv.push_back(nullptr);
+            execv(kTool.c_str(), argv.data());
+            _exit(127);
+        }
+        Result result;
+        int status = 0;
+        EXPECT_GT(child, 0);
+        EXPECT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFEXITED(status)) << "the tool did not exit normally";
+        result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        result.out = ReadFile(outPath);
+        result.err = ReadFile(errPath);
+        EXPECT_FALSE(Contains(result.out, "Catalog not initialized"));
+        EXPECT_FALSE(Contains(result.err, "Catalog not initialized"));
+        return result;
+    }
+
+    static void ExpectFits(const std::string& text)
+    {
+        for (const std::string& line : Lines(text)) {
+            EXPECT_LE(CodePoints(line), 100U) << line;
+        }
+    }
+
+    // A failure: status 2, nothing on standard output, one line on standard
+    // error that starts with "qrmkit: " and contains every given text.
+    static void ExpectFailure(const Result& result, const std::vector<std::string>& parts)
+    {
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.out, "");
+        std::vector<std::string> lines = Lines(result.err);
+        ASSERT_EQ(lines.size(), 1U) << result.err;
+        EXPECT_EQ(lines[0].rfind("qrmkit: ", 0), 0U) << lines[0];
+        for (const std::string& part : parts) {
+            EXPECT_TRUE(Contains(lines[0], part)) << "\"" << part << "\" not in: " << lines[0];
+        }
+    }
+
+    std::string mDir;
+};
+
+// ------------------------------------------------------------------ updates
+
+TEST_F(ToolTest, UpdatesTableListsEveryApplicationWithAnUpdate)
+{
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.err, "");
+    for (const char* application :
+         {"BIOS", "Remote access controller firmware", "25GbE adapter firmware", "25GbE adapter driver",
+          "RAID controller firmware", "RAID controller driver", "1GbE adapter firmware", "Video driver",
+          "Systems management agent", "Update agent"}) {
+        EXPECT_TRUE(Contains(result.out, application)) << application;
+    }
+    EXPECT_FALSE(LineWith(result.out, {"BIOS", "2.3.9", "2.4.1", "newer"}).empty()) << result.out;
+    EXPECT_FALSE(LineWith(result.out, {"1GbE adapter firmware", "21.85.0", "21.81.3", "older"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"Remote access controller firmware", "7.10.30", "same"}).empty());
+    EXPECT_FALSE(
+        LineWith(result.out, {"updates.example.com/catalog/FOLDER01/BIOS/BIOS_S740_2.4.1.EXE"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"S740W64.00041", "BTW64", "auto"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"10 updates"}).empty());
+    EXPECT_FALSE(Contains(result.out, "Boot storage driver"));
+}
+
+TEST_F(ToolTest, UpdatesTableFitsInOneHundredColumns)
+{
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory});
+    ASSERT_EQ(result.status, 0);
+    ExpectFits(result.out);
+}
+
+TEST_F(ToolTest, UpdatesTableCutsLongTextsWithAnEllipsis)
+{
+    std::string inventory =
+        Variant(kInventory, "long.xml", "display=\"Update agent\"/>",
+                "display=\"Update agent with a name long enough to overflow any reasonable column of a table\"/>");
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", inventory});
+    ASSERT_EQ(result.status, 0) << result.err;
+    ExpectFits(result.out);
+    EXPECT_FALSE(LineWith(result.out, {"Update agent with", "\xE2\x80\xA6", "5.1.4", "5.2.0"}).empty())
+        << result.out;
+}
+
+TEST_F(ToolTest, UpdatesJsonHasEveryField)
+{
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--json"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    nlohmann::json document = nlohmann::json::parse(result.out);
+    EXPECT_EQ(document["catalog"], kCatalog);
+    EXPECT_EQ(document["inventory"], kInventory);
+    EXPECT_EQ(document["system_id"], "0A6B");
+    EXPECT_EQ(document["base_location"], "updates.example.com/catalog");
+    EXPECT_EQ(document["bundle"]["type"], "BTW64");
+    EXPECT_EQ(document["bundle"]["id"], "S740W64.00041");
+    EXPECT_EQ(document["bundle"]["selection"], "auto");
+    ASSERT_EQ(document["updates"].size(), 10U);
+    for (const auto& update : document["updates"]) {
+        for (const char* field :
+             {"device", "application", "installed_version", "available_version", "status", "component_type",
+              "criticality", "category", "name", "package_id", "path", "location", "release_id"}) {
+            EXPECT_TRUE(update.contains(field)) << field;
+        }
+        EXPECT_TRUE(update["category"].contains("code"));
+        EXPECT_TRUE(update["category"].contains("text"));
+        EXPECT_EQ(update["location"], "updates.example.com/catalog/" + update["path"].get<std::string>());
+    }
+    const auto& bios = document["updates"][0];
+    EXPECT_EQ(bios["device"], "BIOS");
+    EXPECT_EQ(bios["application"], "BIOS");
+    EXPECT_EQ(bios["installed_version"], "2.3.9");
+    EXPECT_EQ(bios["available_version"], "2.4.1");
+    EXPECT_EQ(bios["status"], "newer");
+    EXPECT_EQ(bios["component_type"], "BIOS");
+    EXPECT_EQ(bios["criticality"], "2");
+    EXPECT_EQ(bios["category"]["code"], "BI");
+    EXPECT_EQ(bios["category"]["text"], "BIOS");
+    EXPECT_EQ(bios["path"], "FOLDER01/BIOS/BIOS_S740_2.4.1.EXE");
+    bool sawOlder = false;
+    for (const auto& update : document["updates"]) {
+        if (update["application"] == "1GbE adapter firmware") {
+            sawOlder = true;
+            EXPECT_EQ(update["status"], "older");
+        }
+    }
+    EXPECT_TRUE(sawOlder);
+    EXPECT_EQ(document["summary"]["updates"], 10);
+    EXPECT_EQ(document["summary"]["older"], 1);
+    EXPECT_EQ(document["summary"]["same"], 2);
+}
+
+TEST_F(ToolTest, UpdatesFromTheLinuxBundle)
+{
+    Result result =
+        Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTLX", "--json"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    nlohmann::json document = nlohmann::json::parse(result.out);
+    EXPECT_EQ(document["bundle"]["type"], "BTLX");
+    EXPECT_EQ(document["bundle"]["id"], "S740LX.00042");
+    EXPECT_EQ(document["bundle"]["selection"], "requested");
+    ASSERT_FALSE(document["updates"].empty());
+    for (const auto& update : document["updates"]) {
+        std::string path = update["path"];
+        EXPECT_EQ(path.substr(path.size() - 4), ".BIN") << path;
+    }
+
+    Result table = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTLX"});
+    ASSERT_EQ(table.status, 0);
+    EXPECT_FALSE(LineWith(table.out, {"S740LX.00042", "BTLX"}).empty());
+}
+
+TEST_F(ToolTest, UpdatesWithoutAnApplicableBundleOfTheRequestedType)
+{
+    Result result =
+        Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTRPM"});
+    ExpectFailure(result, {"BTRPM", "0A6B"});
+}
+
+TEST_F(ToolTest, UpdatesWithoutAnyApplicableBundle)
+{
+    std::string inventory = Variant(kInventory, "other.xml", "systemID=\"0A6B\"", "systemID=\"0FFF\"");
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", inventory});
+    ExpectFailure(result, {"no bundle", "0FFF"});
+}
+
+TEST_F(ToolTest, UpdatesRejectsAnUnknownBundleType)
+{
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTXX"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_TRUE(Contains(result.err, "BTXX"));
+}
+
+// ------------------------------------------------------------------- bundle
+
+TEST_F(ToolTest, BundleTable)
+{
+    Result result = Run({"bundle", "--catalog", kCatalog, "--inventory", kInventory});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_FALSE(LineWith(result.out, {"BTW64", "S740W64.00041", "26.11.00", "22", "45"}).empty()) << result.out;
+    EXPECT_FALSE(LineWith(result.out, {"BTLX", "S740LX.00042", "46", "bundles/s740-btlx.tar.gz"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"BTW32", "none"}).empty());
+    ExpectFits(result.out);
+}
+
+TEST_F(ToolTest, BundleJson)
+{
+    Result result = Run({"bundle", "--catalog", kCatalog, "--inventory", kInventory, "--json"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    nlohmann::json document = nlohmann::json::parse(result.out);
+    EXPECT_EQ(document["system_id"], "0A6B");
+    const auto& types = document["bundle_types"];
+    ASSERT_EQ(types.size(), 6U);
+    EXPECT_EQ(types[0]["type"], "BTW32");
+    EXPECT_TRUE(types[0]["applicable_bundle"].is_null());
+    EXPECT_EQ(types[0]["greatest_bundle_number"], 0);
+    EXPECT_EQ(types[1]["type"], "BTW64");
+    EXPECT_EQ(types[1]["applicable_bundle"]["id"], "S740W64.00041");
+    EXPECT_EQ(types[1]["applicable_bundle"]["path"], "bundles/s740-btw64.exe");
+    EXPECT_EQ(types[1]["applicable_bundle"]["vendor_version"], "26.11.00");
+    EXPECT_EQ(types[1]["applicable_bundle"]["packages"], 22);
+    EXPECT_EQ(types[1]["greatest_bundle_number"], 45);
+    EXPECT_EQ(types[2]["type"], "BTLX");
+    EXPECT_EQ(types[2]["greatest_bundle_number"], 46);
+    EXPECT_EQ(types[5]["type"], "BTOSIND");
+}
+
+// ------------------------------------------------------------------ catalog
+
+TEST_F(ToolTest, CatalogTable)
+{
+    Result result = Run({"catalog", "--catalog", kCatalog});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_FALSE(LineWith(result.out, {"base location", "updates.example.com/catalog"}).empty()) << result.out;
+    EXPECT_FALSE(LineWith(result.out, {"release", "R2026-11"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"version", "26.11.00"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"date", "1763683200"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"W22", "updates.example.com/catalog/collectors/invcol_w64.exe"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"total", "48"}).empty());
+    ExpectFits(result.out);
+}
+
+TEST_F(ToolTest, CatalogJson)
+{
+    Result result = Run({"catalog", "--catalog", kCatalog, "--json"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    nlohmann::json document = nlohmann::json::parse(result.out);
+    EXPECT_EQ(document["base_location"], "updates.example.com/catalog");
+    EXPECT_EQ(document["release_id"], "R2026-11");
+    EXPECT_EQ(document["version"], "26.11.00");
+    EXPECT_EQ(document["date_time"], 1763683200ULL);
+    EXPECT_EQ(document["bundles"]["total"], 6);
+    EXPECT_EQ(document["bundles"]["by_type"]["BTW64"], 3);
+    EXPECT_EQ(document["bundles"]["by_type"]["BTW32"], 0);
+    EXPECT_EQ(document["components"]["total"], 48);
+    EXPECT_EQ(document["components"]["by_type"]["BIOS"], 6);
+    EXPECT_EQ(document["components"]["by_criticality"]["2"], 20);
+    EXPECT_EQ(document["components"]["by_criticality"]["3"], 28);
+    EXPECT_EQ(document["components"]["by_criticality"]["unspecified"], 0);
+    ASSERT_EQ(document["inventory_collectors"].size(), 2U);
+    EXPECT_EQ(document["inventory_collectors"][0]["os_code"], "W22");
+    EXPECT_EQ(document["inventory_collectors"][0]["path"], "collectors/invcol_w64.exe");
+    EXPECT_EQ(document["inventory_collectors"][0]["location"],
+              "updates.example.com/catalog/collectors/invcol_w64.exe");
+}
+
+// ---------------------------------------------------------------- inventory
+
+TEST_F(ToolTest, InventoryTable)
+{
+    Result result = Run({"inventory", "--inventory", kInventory});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_FALSE(LineWith(result.out, {"system id", "0A6B"}).empty()) << result.out;
+    EXPECT_FALSE(LineWith(result.out, {"W22", "Example", "x64", "Server OS 2022"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"Dual-port 25GbE adapter", "8086:1593"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"25GbE adapter driver", "DRVR", "1.13.2"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"9 devices", "11 applications"}).empty());
+    ExpectFits(result.out);
+}
+
+TEST_F(ToolTest, InventoryJson)
+{
+    Result result = Run({"inventory", "--inventory", kInventory, "--json"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    nlohmann::json document = nlohmann::json::parse(result.out);
+    EXPECT_EQ(document["system_id"], "0A6B");
+    EXPECT_EQ(document["language"], "en");
+    ASSERT_EQ(document["systems"].size(), 1U);
+    EXPECT_EQ(document["systems"][0]["service_tag"], "ABC1234");
+    ASSERT_EQ(document["operating_systems"].size(), 1U);
+    EXPECT_EQ(document["operating_systems"][0]["code"], "W22");
+    EXPECT_EQ(document["operating_systems"][0]["architecture"], "x64");
+    ASSERT_EQ(document["devices"].size(), 9U);
+    const auto& bios = document["devices"][0];
+    EXPECT_EQ(bios["display"], "BIOS");
+    EXPECT_EQ(bios["component_id"], 159);
+    ASSERT_EQ(bios["applications"].size(), 1U);
+    EXPECT_EQ(bios["applications"][0]["type"], "BIOS");
+    EXPECT_EQ(bios["applications"][0]["version"], "2.3.9");
+    EXPECT_EQ(bios["applications"][0]["display"], "BIOS");
+    const auto& nic = document["devices"][2];
+    EXPECT_EQ(nic["pci"]["vendor_id"], "8086");
+    EXPECT_EQ(nic["pci"]["sub_device_id"], "0A6B");
+    EXPECT_EQ(nic["applications"].size(), 2U);
+}
+
+// --------------------------------------------------------------- categories
+
+TEST_F(ToolTest, CategoriesTable)
+{
+    Result result = Run({"categories", "--catalog", kCatalog});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_FALSE(LineWith(result.out, {"Storage Controllers", "SF2"}).empty()) << result.out;
+    EXPECT_FALSE(LineWith(result.out, {"Systems Management", "SystemsManagement"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"BI", "BIOS"}).empty());
+    ExpectFits(result.out);
+}
+
+TEST_F(ToolTest, CategoriesJson)
+{
+    Result result = Run({"categories", "--catalog", kCatalog, "--json"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    nlohmann::json document = nlohmann::json::parse(result.out);
+    ASSERT_EQ(document["categories"].size(), 13U);
+    bool sawStorage = false;
+    for (const auto& category : document["categories"]) {
+        EXPECT_TRUE(category.contains("codes"));
+        EXPECT_TRUE(category.contains("acronyms"));
+        EXPECT_TRUE(category.contains("listed"));
+        if (category["text"] == "Storage Controllers") {
+            sawStorage = true;
+            EXPECT_EQ(category["codes"], nlohmann::json::array({"SF2"}));
+            EXPECT_EQ(category["listed"][0], "SF2");
+        }
+    }
+    EXPECT_TRUE(sawStorage);
+    EXPECT_EQ(document["acronyms"]["BI"], "BIOS");
+    EXPECT_EQ(document["acronyms"]["UT"], "Utilities");
+    EXPECT_EQ(document["acronyms"].size(), 13U);
+}
+
+// ---------------------------------------------------------------- collector
+
+TEST_F(ToolTest, CollectorForAKnownCode)
+{
+    Result result = Run({"collector", "--catalog", kCatalog, "--os-code", "W22"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "updates.example.com/catalog/collectors/invcol_w64.exe\n");
+    EXPECT_EQ(result.err, "");
+}
+
+TEST_F(ToolTest, CollectorForAnUnknownCode)
+{
+    Result result = Run({"collector", "--catalog", kCatalog, "--os-code", "XX9"});
+    ExpectFailure(result, {kCatalog, "XX9"});
+}
+
+TEST_F(ToolTest, CollectorWithAMissingCatalog)
+{
+    Result result = Run({"collector", "--catalog", Path("absent.xml"), "--os-code", "W22"});
+    ExpectFailure(result, {Path("absent.xml"), "does not exist"});
+}
+
+// ------------------------------------------------------------------ compare
+
+TEST_F(ToolTest, CompareVersions)
+{
+    Result greater = Run({"compare", "1.2.10", "1.2.9"});
+    EXPECT_EQ(greater.status, 0);
+    EXPECT_EQ(greater.out, "1.2.10 > 1.2.9\n");
+    Result less = Run({"compare", "1.0", "1.0.0"});
+    EXPECT_EQ(less.status, 0);
+    EXPECT_EQ(less.out, "1.0 < 1.0.0\n");
+    Result equal = Run({"compare", "01.2", "1.2"});
+    EXPECT_EQ(equal.status, 0);
+    EXPECT_EQ(equal.out, "01.2 = 1.2\n");
+}
+
+TEST_F(ToolTest, CompareVersionsThatCannotBeCompared)
+{
+    Result result = Run({"compare", "1.\xC3\xA9", "1.0"});
+    ExpectFailure(result, {"cannot compare"});
+}
+
+// ------------------------------------------------------------------- errors
+
+TEST_F(ToolTest, MissingCatalogFile)
+{
+    const std::string missing = Path("missing-catalog.xml");
+    Result result = Run({"updates", "--catalog", missing, "--inventory", kInventory});
+    ExpectFailure(result, {missing, "does not exist"});
+}
+
+TEST_F(ToolTest, MissingInventoryFile)
+{
+    const std::string missing = Path("missing-inventory.xml");
+    Result result = Run({"inventory", "--inventory", missing});
+    ExpectFailure(result, {missing, "does not exist"});
+}
+
+TEST_F(ToolTest, MalformedCatalog)
+{
+    const std::string broken = Path("broken.xml");
+    WriteFile(broken, "<Manifest baseLocation=\"x\"><SoftwareBundle>");
+    for (const char* command : {"updates", "bundle"}) {
+        Result result = Run({command, "--catalog", broken, "--inventory", kInventory});
+        ExpectFailure(result, {broken, "XML"});
+    }
+    ExpectFailure(Run({"catalog", "--catalog", broken}), {broken});
+    ExpectFailure(Run({"categories", "--catalog", broken}), {broken});
+    ExpectFailure(Run({"collector", "--catalog", broken, "--os-code", "W22"}), {broken});
+}
+
+TEST_F(ToolTest, MalformedInventory)
+{
+    const std::string broken = Path("broken-inventory.xml");
+    WriteFile(broken, "not xml at all");
+    ExpectFailure(Run({"updates", "--catalog", kCatalog, "--inventory", broken}), {broken, "inventory"});
+    ExpectFailure(Run({"inventory", "--inventory", broken}), {broken});
+}
+
+TEST_F(ToolTest, CatalogWithABundleLackingContents)
+{
+    // The first bundle's package list is renamed, so the bundle has none.
+    const std::string catalog = Path("no-contents.xml");
+    WriteFile(catalog, Replace(Replace(ReadFile(kCatalog), "<Contents>", "<Packages>"), "</Contents>", "</Packages>"));
+    Result result = Run({"updates", "--catalog", catalog, "--inventory", kInventory});
+    ExpectFailure(result, {catalog, "missing", "element"});
+    ExpectFailure(Run({"catalog", "--catalog", catalog}), {catalog, "missing"});
+}
+
+// -------------------------------------------------------------------- usage
+
+TEST_F(ToolTest, BadUsageExitsWithOne)
+{
+    Result unknownOption = Run({"catalog", "--catalog", kCatalog, "--bogus"});
+    EXPECT_EQ(unknownOption.status, 1);
+    EXPECT_EQ(unknownOption.out, "");
+    EXPECT_FALSE(unknownOption.err.empty());
+
+    Result missingCatalog = Run({"updates", "--inventory", kInventory});
+    EXPECT_EQ(missingCatalog.status, 1);
+    EXPECT_TRUE(Contains(missingCatalog.err, "--catalog"));
+
+    EXPECT_EQ(Run({}).status, 1);
+    EXPECT_EQ(Run({"frobnicate"}).status, 1);
+    EXPECT_EQ(Run({"compare", "1.0"}).status, 1);
+    EXPECT_EQ(Run({"collector", "--catalog", kCatalog}).status, 1);
+}
+
+TEST_F(ToolTest, HelpForEveryCommand)
+{
+    Result top = Run({"--help"});
+    EXPECT_EQ(top.status, 0);
+    EXPECT_TRUE(Contains(top.out, "Example"));
+    for (const char* command :
+         {"updates", "bundle", "catalog", "inventory", "categories", "collector", "compare"}) {
+        Result result = Run({command, "--help"});
+        EXPECT_EQ(result.status, 0) << command;
+        EXPECT_TRUE(Contains(result.out, "Example")) << command;
+        EXPECT_TRUE(Contains(result.out, std::string("qrmkit ") + command)) << command;
+    }
+}
+
+TEST_F(ToolTest, Version)
+{
+    Result result = Run({"--version"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "qrmkit 1.0.0\n");
+}
+
+}  // namespace

@@ -1,0 +1,643 @@
+#include "Commands.h"
+
+#include "Library.h"
+#include "Table.h"
+
+#include <QRMKit.h>
+
+#include <algorithm>
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace qrmtool {
+
+namespace {
+
+// ---------------------------------------------------------------- helpers
+
+std::string Text(const Json& value)
+{
+    if (value.is_string()) {
+        return value.get<std::string>();
+    }
+    if (value.is_null()) {
+        return std::string();
+    }
+    return value.dump();
+}
+
+// "0A6B", or null when the inventory does not name exactly one system.
+Json SystemID(unsigned int id) { return id == 0 ? Json() : Json(Hex(id)); }
+
+std::string SystemPhrase(const Json& systemID)
+{
+    return systemID.is_null() ? std::string("an inventory without a single system") : "system " + Text(systemID);
+}
+
+// Lines of "key  value" pairs under a title, keys padded to one width.
+std::string KeyValues(const std::string& title, const std::vector<std::pair<std::string, std::string>>& pairs)
+{
+    std::size_t keyWidth = 0;
+    for (const auto& pair : pairs) {
+        keyWidth = std::max(keyWidth, DisplayWidth(pair.first));
+    }
+    std::string out = Fit(OneLine(title), kMaxWidth) + "\n";
+    for (const auto& pair : pairs) {
+        std::string line = "  " + pair.first + std::string(keyWidth - DisplayWidth(pair.first) + 2, ' ');
+        std::size_t room = kMaxWidth - DisplayWidth(line);
+        out += line + Fit(OneLine(pair.second), room) + "\n";
+    }
+    return out;
+}
+
+std::string Plural(std::size_t count, const std::string& one, const std::string& many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string Join(const Json& list, const char* separator = ", ")
+{
+    std::string out;
+    for (const Json& item : list) {
+        if (!out.empty()) {
+            out += separator;
+        }
+        out += Text(item);
+    }
+    return out;
+}
+
+// ---------------------------------------------------------------- updates
+
+QRMOSArchitectureEnum InventoryArchitecture()
+{
+    std::vector<QRMOperatingSystem> oses;
+    QRMKitAPI::Instance()->GetInventoryOperatingSystems(oses);
+    return oses.empty() ? QRM_OS_ARCH_X64 : oses.front().GetArchitecture();
+}
+
+}  // namespace
+
+Json CollectUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
+{
+    QRMBundleTypeEnum type = QRM_BUNDLE_BTW32;
+    const bool automatic = bundleType == "auto";
+    if (!automatic && !QRMBundleTypeFromText(VELString(bundleType.c_str()), type)) {
+        throw ToolError("unknown bundle type \"" + bundleType + "\"");
+    }
+    LoadCatalog(catalog);
+    LoadInventory(inventory);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    const Json systemID = SystemID(api->GetSystemIDFromInventory());
+
+    QRMSoftwareBundle* bundle = nullptr;
+    if (automatic) {
+        for (QRMBundleTypeEnum candidate : kBundleTypes) {
+            bundle = api->GetApplicableBundle(candidate);
+            if (bundle != nullptr) {
+                type = candidate;
+                break;
+            }
+        }
+        if (bundle == nullptr) {
+            throw ToolError(inventory + ": no bundle of any type in " + catalog + " applies to " +
+                            SystemPhrase(systemID));
+        }
+    } else {
+        bundle = api->GetApplicableBundle(type);
+        if (bundle == nullptr) {
+            throw ToolError(inventory + ": no " + bundleType + " bundle in " + catalog + " applies to " +
+                            SystemPhrase(systemID));
+        }
+    }
+
+    std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
+    QRMKitReturnCode code = api->GetApplicableUpdates(updates, InventoryArchitecture(), type);
+    if (code != QRM_KIT_SUCCESS) {
+        throw ToolError(inventory + ": the applicable updates could not be determined (" +
+                        QRMKitReturnCodeName(code) + ")");
+    }
+    std::vector<QRMIDevice*> devices;
+    api->GetInventory(devices);
+
+    const std::string base = Utf8(api->GetBaseLocation());
+    Json list = Json::array();
+    std::map<std::string, std::size_t> counts = {{"newer", 0}, {"same", 0}, {"older", 0}, {"unknown", 0}};
+    std::size_t applicationCount = 0;
+    for (const QRMIDevice* device : devices) {
+        std::vector<QRMIApplication*> applications;
+        device->GetApplications(applications);
+        for (QRMIApplication* application : applications) {
+            ++applicationCount;
+            auto found = updates.find(application);
+            if (found == updates.end()) {
+                continue;
+            }
+            const QRMSoftwareComponent& component = *found->second;
+            const std::string status =
+                StatusWord(api->CompareVersion(component.GetVendorVersion(), application->GetVersion()));
+            ++counts[status];
+            const QRMCategory category = component.GetCategory();
+            const std::string path = Utf8(component.GetPath());
+            Json entry;
+            entry["device"] = Utf8(device->GetDisplay());
+            entry["application"] = Utf8(application->GetDisplay());
+            entry["installed_version"] = Utf8(application->GetVersion());
+            entry["available_version"] = Utf8(component.GetVendorVersion());
+            entry["status"] = status;
+            entry["component_type"] = ComponentTypeWord(component.GetComponentType().GetValue());
+            entry["criticality"] = CriticalityWord(component.GetCriticality().GetValue());
+            entry["category"] = {{"code", Utf8(category.GetCode())}, {"text", FirstText(category)}};
+            entry["name"] = FirstText(component.GetName());
+            entry["package_id"] = Utf8(component.GetPackageID());
+            entry["path"] = path;
+            entry["location"] = base + "/" + path;
+            entry["release_id"] = Utf8(component.GetReleaseID());
+            list.push_back(std::move(entry));
+        }
+    }
+
+    std::vector<QRMBundleContent> contents;
+    bundle->GetContents(contents);
+    Json document;
+    document["catalog"] = catalog;
+    document["inventory"] = inventory;
+    document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
+    document["base_location"] = base;
+    document["system_id"] = systemID;
+    document["bundle"] = {{"id", Utf8(bundle->GetBundleID())},
+                          {"type", BundleTypeWord(type)},
+                          {"selection", automatic ? "auto" : "requested"},
+                          {"path", Utf8(bundle->GetPath())},
+                          {"vendor_version", Utf8(bundle->GetVendorVersion())},
+                          {"packages", contents.size()}};
+    document["updates"] = std::move(list);
+    document["summary"] = {{"updates", document["updates"].size()},
+                           {"newer", counts["newer"]},
+                           {"same", counts["same"]},
+                           {"older", counts["older"]},
+                           {"unknown", counts["unknown"]},
+                           {"applications", applicationCount},
+                           {"without_update", applicationCount - document["updates"].size()}};
+    return document;
+}
+
+std::string RenderUpdates(const Json& document)
+{
+    const Json& bundle = document["bundle"];
+    std::string out;
+    out += Fit(OneLine("Updates for " + SystemPhrase(document["system_id"]) + " from catalog " +
+                       Text(document["catalog_release"]) + " (" + Text(document["catalog"]) + ")"),
+               kMaxWidth) +
+           "\n";
+    std::string how = Text(bundle["selection"]) == "auto"
+                          ? " (auto: the first bundle type that applies to this system)"
+                          : " (as requested)";
+    out += Fit(OneLine("Bundle " + Text(bundle["id"]) + ", type " + Text(bundle["type"]) + how), kMaxWidth) +
+           "\n\n";
+
+    Table table({{"DEVICE / APPLICATION", true, 12},
+                 {"INSTALLED", true, 9},
+                 {"AVAILABLE", true, 9},
+                 {"STATUS"},
+                 {"TYPE"},
+                 {"CRIT"},
+                 {"CATEGORY", true, 10}},
+                2);
+    std::string device;
+    bool first = true;
+    for (const Json& update : document["updates"]) {
+        if (first || Text(update["device"]) != device) {
+            device = Text(update["device"]);
+            table.AddLine(device);
+            first = false;
+        }
+        table.AddRow({Text(update["application"]), Text(update["installed_version"]),
+                      Text(update["available_version"]), Text(update["status"]), Text(update["component_type"]),
+                      Text(update["criticality"]), Text(update["category"]["text"])});
+        table.AddLine("package " + Text(update["location"]) + " (release " + Text(update["release_id"]) + ")", 4);
+    }
+    out += table.Render(kMaxWidth);
+
+    const Json& summary = document["summary"];
+    const std::size_t count = summary["updates"].get<std::size_t>();
+    out += "\n";
+    out += Fit(Plural(count, "update", "updates") + " for " +
+                   Plural(summary["applications"].get<std::size_t>(), "installed application",
+                          "installed applications") +
+                   ": " + Text(summary["newer"]) + " newer, " + Text(summary["same"]) + " same, " +
+                   Text(summary["older"]) + " older, " + Text(summary["unknown"]) + " unknown; " +
+                   Text(summary["without_update"]) + " without an update.",
+               kMaxWidth) +
+           "\n";
+    if (count > 0) {
+        out += "STATUS compares the available version with the installed one; CRIT is the criticality.\n";
+    }
+    return out;
+}
+
+// ---------------------------------------------------------------- bundle
+
+Json CollectBundles(const std::string& catalog, const std::string& inventory)
+{
+    LoadCatalog(catalog);
+    LoadInventory(inventory);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    Json types = Json::array();
+    for (QRMBundleTypeEnum type : kBundleTypes) {
+        Json entry;
+        entry["type"] = BundleTypeWord(type);
+        const QRMSoftwareBundle* bundle = api->GetApplicableBundle(type);
+        if (bundle == nullptr) {
+            entry["applicable_bundle"] = nullptr;
+        } else {
+            std::vector<QRMBundleContent> contents;
+            bundle->GetContents(contents);
+            entry["applicable_bundle"] = {{"id", Utf8(bundle->GetBundleID())},
+                                          {"path", Utf8(bundle->GetPath())},
+                                          {"vendor_version", Utf8(bundle->GetVendorVersion())},
+                                          {"packages", contents.size()}};
+        }
+        entry["greatest_bundle_number"] = api->GetGreatestBundleNumber(type);
+        types.push_back(std::move(entry));
+    }
+    Json document;
+    document["catalog"] = catalog;
+    document["inventory"] = inventory;
+    document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
+    document["system_id"] = SystemID(api->GetSystemIDFromInventory());
+    document["bundle_types"] = std::move(types);
+    return document;
+}
+
+std::string RenderBundles(const Json& document)
+{
+    std::string out = Fit(OneLine("Bundles for " + SystemPhrase(document["system_id"]) + " in catalog " +
+                                  Text(document["catalog_release"]) + " (" + Text(document["catalog"]) + ")"),
+                          kMaxWidth) +
+                      "\n\n";
+    Table table({{"TYPE"},
+                 {"APPLICABLE BUNDLE", true, 12},
+                 {"VERSION", true, 8},
+                 {"PACKAGES"},
+                 {"GREATEST NUMBER"},
+                 {"PATH", true, 12, true}});
+    std::size_t applicable = 0;
+    for (const Json& entry : document["bundle_types"]) {
+        const Json& bundle = entry["applicable_bundle"];
+        if (bundle.is_null()) {
+            table.AddRow({Text(entry["type"]), "none", "", "", Text(entry["greatest_bundle_number"]), ""});
+        } else {
+            ++applicable;
+            table.AddRow({Text(entry["type"]), Text(bundle["id"]), Text(bundle["vendor_version"]),
+                          Text(bundle["packages"]), Text(entry["greatest_bundle_number"]), Text(bundle["path"])});
+        }
+    }
+    out += table.Render(kMaxWidth);
+    out += "\n" + std::to_string(applicable) + " of " + std::to_string(document["bundle_types"].size()) +
+           " bundle types have an applicable bundle.\n";
+    return out;
+}
+
+// ---------------------------------------------------------------- catalog
+
+Json CollectCatalog(const std::string& catalog)
+{
+    LoadCatalog(catalog);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+
+    std::vector<QRMSoftwareBundle*> bundles;
+    api->GetSoftwareBundles(bundles);
+    Json bundlesByType = Json::object();
+    for (QRMBundleTypeEnum type : kBundleTypes) {
+        bundlesByType[BundleTypeWord(type)] = 0;
+    }
+    for (const QRMSoftwareBundle* bundle : bundles) {
+        Json& slot = bundlesByType[BundleTypeWord(bundle->GetBundleType())];
+        slot = (slot.is_null() ? 0 : slot.get<std::size_t>()) + 1;
+    }
+
+    std::vector<QRMSoftwareComponent*> components;
+    api->GetSoftwareComponents(components);
+    Json componentsByType = Json::object();
+    for (QRMComponentTypeValueEnum type : kComponentTypes) {
+        componentsByType[ComponentTypeWord(type)] = 0;
+    }
+    Json componentsByCriticality = Json::object();
+    for (QRMCriticalityValueEnum level : kCriticalities) {
+        componentsByCriticality[CriticalityWord(level)] = 0;
+    }
+    for (const QRMSoftwareComponent* component : components) {
+        Json& typeSlot = componentsByType[ComponentTypeWord(component->GetComponentType().GetValue())];
+        typeSlot = (typeSlot.is_null() ? 0 : typeSlot.get<std::size_t>()) + 1;
+        Json& levelSlot = componentsByCriticality[CriticalityWord(component->GetCriticality().GetValue())];
+        levelSlot = (levelSlot.is_null() ? 0 : levelSlot.get<std::size_t>()) + 1;
+    }
+
+    const std::string base = Utf8(api->GetBaseLocation());
+    std::vector<QRMInventoryComponent> collectors;
+    api->GetInventoryComponents(collectors);
+    Json collectorList = Json::array();
+    for (const QRMInventoryComponent& collector : collectors) {
+        const std::string path = Utf8(collector.GetPath());
+        collectorList.push_back({{"os_code", Utf8(collector.GetOSCode())},
+                                 {"path", path},
+                                 {"location", base + "/" + path},
+                                 {"vendor_version", Utf8(collector.GetVendorVersion())},
+                                 {"release_id", Utf8(collector.GetReleaseID())}});
+    }
+
+    Json document;
+    document["catalog"] = catalog;
+    document["base_location"] = base;
+    document["release_id"] = Utf8(api->GetCatalogReleaseID());
+    document["version"] = Utf8(api->GetCatalogVersion());
+    document["date_time"] = api->GetCatalogDateTime().GetValue();
+    document["bundles"] = {{"total", bundles.size()}, {"by_type", std::move(bundlesByType)}};
+    document["components"] = {{"total", components.size()},
+                              {"by_type", std::move(componentsByType)},
+                              {"by_criticality", std::move(componentsByCriticality)}};
+    document["inventory_collectors"] = std::move(collectorList);
+    return document;
+}
+
+namespace {
+
+std::string CountTable(const std::string& header, const Json& counts, const Json& total)
+{
+    Table table({{header, true, 8}, {"COUNT"}});
+    for (const auto& item : counts.items()) {
+        table.AddRow({item.key(), Text(item.value())});
+    }
+    table.AddRow({"total", Text(total)});
+    return table.Render(kMaxWidth);
+}
+
+}  // namespace
+
+std::string RenderCatalog(const Json& document)
+{
+    std::string out = KeyValues("Catalog " + Text(document["catalog"]),
+                                {{"base location", Text(document["base_location"])},
+                                 {"release", Text(document["release_id"])},
+                                 {"version", Text(document["version"])},
+                                 {"date", Text(document["date_time"])}});
+    out += "\n" + CountTable("BUNDLE TYPE", document["bundles"]["by_type"], document["bundles"]["total"]);
+    out += "\n" + CountTable("COMPONENT TYPE", document["components"]["by_type"], document["components"]["total"]);
+    out += "\n" + CountTable("CRITICALITY", document["components"]["by_criticality"],
+                             document["components"]["total"]);
+    out += "\n";
+    if (document["inventory_collectors"].empty()) {
+        out += "No inventory collectors.\n";
+    } else {
+        Table table({{"OS CODE", true, 8}, {"VERSION", true, 8}, {"COLLECTOR LOCATION", true, 20, true}});
+        for (const Json& collector : document["inventory_collectors"]) {
+            table.AddRow({Text(collector["os_code"]), Text(collector["vendor_version"]),
+                          Text(collector["location"])});
+        }
+        out += table.Render(kMaxWidth);
+    }
+    return out;
+}
+
+// ---------------------------------------------------------------- inventory
+
+Json CollectInventory(const std::string& inventory)
+{
+    LoadInventory(inventory);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+
+    std::vector<QRMISystem> systems;
+    api->GetInventorySystems(systems);
+    Json systemList = Json::array();
+    for (const QRMISystem& system : systems) {
+        systemList.push_back({{"system_id", Hex(system.GetSystemID())},
+                              {"id_type", QRMSystemIDTypeText(system.GetSystemIDType())},
+                              {"display", Utf8(system.GetDisplay())},
+                              {"service_tag", Utf8(system.GetServiceTag())}});
+    }
+
+    std::vector<QRMOperatingSystem> oses;
+    api->GetInventoryOperatingSystems(oses);
+    Json osList = Json::array();
+    for (const QRMOperatingSystem& os : oses) {
+        osList.push_back({{"code", Utf8(os.GetCode())},
+                          {"vendor", Utf8(os.GetVendor())},
+                          {"architecture", ArchitectureWord(os.GetArchitecture())},
+                          {"major_version", Utf8(os.GetMajorVersion())},
+                          {"minor_version", Utf8(os.GetMinorVersion())},
+                          {"sp_major_version", Utf8(os.GetServicePackMajorVersion())},
+                          {"sp_minor_version", Utf8(os.GetServicePackMinorVersion())},
+                          {"preinstallation_environment", os.IsForPreInstallEnvironment()},
+                          {"suite_mask", os.GetSuiteMask()},
+                          {"display", FirstText(os)}});
+    }
+
+    std::vector<QRMIDevice*> devices;
+    api->GetInventory(devices);
+    Json deviceList = Json::array();
+    std::size_t applicationCount = 0;
+    for (const QRMIDevice* device : devices) {
+        std::vector<QRMIApplication*> applications;
+        device->GetApplications(applications);
+        Json applicationList = Json::array();
+        for (const QRMIApplication* application : applications) {
+            ++applicationCount;
+            applicationList.push_back({{"type", ComponentTypeWord(application->GetComponentType())},
+                                       {"version", Utf8(application->GetVersion())},
+                                       {"display", Utf8(application->GetDisplay())}});
+        }
+        auto id = [](int value) { return Hex(static_cast<unsigned int>(value)); };
+        deviceList.push_back({{"display", Utf8(device->GetDisplay())},
+                              {"component_id", device->GetComponentID()},
+                              {"pci",
+                               {{"vendor_id", id(device->GetVendorID())},
+                                {"device_id", id(device->GetDeviceID())},
+                                {"sub_vendor_id", id(device->GetSubVendorID())},
+                                {"sub_device_id", id(device->GetSubDeviceID())},
+                                {"bus", device->GetBus()},
+                                {"device", device->GetDevice()},
+                                {"function", device->GetFunction()}}},
+                              {"applications", std::move(applicationList)}});
+    }
+
+    Json document;
+    document["inventory"] = inventory;
+    document["system_id"] = SystemID(api->GetSystemIDFromInventory());
+    document["language"] = QRMInventoryLanguageText(api->GetInventoryLanguage());
+    document["schema_version"] = Utf8(api->GetInventorySchemaVersion());
+    document["time_stamp"] = api->GetInventoryTimeStamp().GetValue();
+    document["systems"] = std::move(systemList);
+    document["operating_systems"] = std::move(osList);
+    document["devices"] = std::move(deviceList);
+    document["summary"] = {{"devices", devices.size()}, {"applications", applicationCount}};
+    return document;
+}
+
+std::string RenderInventory(const Json& document)
+{
+    const Json& systemID = document["system_id"];
+    std::string out = KeyValues(
+        "Inventory " + Text(document["inventory"]),
+        {{"system id", systemID.is_null() ? "none (the inventory does not name exactly one system)" : Text(systemID)},
+         {"language", Text(document["language"])},
+         {"schema", Text(document["schema_version"])},
+         {"time stamp", Text(document["time_stamp"])}});
+
+    out += "\n";
+    if (document["systems"].empty()) {
+        out += "No systems.\n";
+    } else {
+        Table systems({{"SYSTEM ID"}, {"ID TYPE"}, {"DISPLAY", true, 10}, {"SERVICE TAG", true, 11}});
+        for (const Json& system : document["systems"]) {
+            systems.AddRow({Text(system["system_id"]), Text(system["id_type"]), Text(system["display"]),
+                            Text(system["service_tag"])});
+        }
+        out += systems.Render(kMaxWidth);
+    }
+
+    out += "\n";
+    if (document["operating_systems"].empty()) {
+        out += "No operating systems.\n";
+    } else {
+        Table oses({{"OS CODE"},
+                    {"VENDOR", true, 8},
+                    {"ARCH"},
+                    {"VERSION", true, 8},
+                    {"SERVICE PACK"},
+                    {"DISPLAY", true, 10}});
+        for (const Json& os : document["operating_systems"]) {
+            oses.AddRow({Text(os["code"]), Text(os["vendor"]), Text(os["architecture"]),
+                         Text(os["major_version"]) + "." + Text(os["minor_version"]),
+                         Text(os["sp_major_version"]) + "." + Text(os["sp_minor_version"]), Text(os["display"])});
+        }
+        out += oses.Render(kMaxWidth);
+    }
+
+    out += "\n";
+    Table devices({{"DEVICE / APPLICATION", true, 16}, {"TYPE"}, {"VERSION", true, 9}, {"IDENTITY", true, 16}});
+    for (const Json& device : document["devices"]) {
+        const Json& pci = device["pci"];
+        std::string identity =
+            device["component_id"].get<unsigned long long>() != 0
+                ? "component " + Text(device["component_id"])
+                : "PCI " + Text(pci["vendor_id"]) + ":" + Text(pci["device_id"]) + " " + Text(pci["sub_vendor_id"]) +
+                      ":" + Text(pci["sub_device_id"]) + " at " + Text(pci["bus"]) + ":" + Text(pci["device"]) +
+                      "." + Text(pci["function"]);
+        devices.AddRow({Text(device["display"]), "", "", identity});
+        for (const Json& application : device["applications"]) {
+            devices.AddRow({"  " + Text(application["display"]), Text(application["type"]),
+                            Text(application["version"]), ""});
+        }
+    }
+    out += devices.Render(kMaxWidth);
+    out += "\n" + Plural(document["summary"]["devices"].get<std::size_t>(), "device", "devices") + ", " +
+           Plural(document["summary"]["applications"].get<std::size_t>(), "application", "applications") + ".\n";
+    return out;
+}
+
+// ---------------------------------------------------------------- categories
+
+Json CollectCategories(const std::string& catalog)
+{
+    LoadCatalog(catalog);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    std::map<VELString, VELString> codes;
+    api->GetCategoryValues(codes);
+    std::map<VELString, std::vector<VELString>> listed;
+    api->ListCatalogAndRVUGeneratedCategoryValues(listed);
+    std::map<VELString, VELString> acronyms;
+    api->GetAcronymForCategoryValues(acronyms);
+
+    Json categories = Json::array();
+    for (const auto& category : listed) {
+        Json codeList = Json::array();
+        Json acronymList = Json::array();
+        Json values = Json::array();
+        for (const VELString& value : category.second) {
+            values.push_back(Utf8(value));
+            auto code = codes.find(value);
+            bool isCode = code != codes.end() && code->second == category.first;
+            Json& target = isCode ? codeList : acronymList;
+            if (std::find(target.begin(), target.end(), Json(Utf8(value))) == target.end()) {
+                target.push_back(Utf8(value));
+            }
+        }
+        categories.push_back({{"text", Utf8(category.first)},
+                              {"codes", std::move(codeList)},
+                              {"acronyms", std::move(acronymList)},
+                              {"listed", std::move(values)}});
+    }
+    Json acronymMap = Json::object();
+    for (const auto& acronym : acronyms) {
+        acronymMap[Utf8(acronym.first)] = Utf8(acronym.second);
+    }
+
+    Json document;
+    document["catalog"] = catalog;
+    document["categories"] = std::move(categories);
+    document["acronyms"] = std::move(acronymMap);
+    return document;
+}
+
+std::string RenderCategories(const Json& document)
+{
+    std::string out = Fit(OneLine("Categories of catalog " + Text(document["catalog"])), kMaxWidth) + "\n\n";
+    if (document["categories"].empty()) {
+        return out + "No categories.\n";
+    }
+    Table categories({{"CATEGORY", true, 12}, {"CODES", true, 12}, {"GENERATED ACRONYMS", true, 18}});
+    for (const Json& category : document["categories"]) {
+        categories.AddRow({Text(category["text"]), Join(category["codes"]), Join(category["acronyms"])});
+    }
+    out += categories.Render(kMaxWidth) + "\n";
+    Table acronyms({{"ACRONYM", true, 8}, {"CATEGORY", true, 12}});
+    for (const auto& item : document["acronyms"].items()) {
+        acronyms.AddRow({item.key(), Text(item.value())});
+    }
+    out += acronyms.Render(kMaxWidth);
+    out += "\n" + Plural(document["categories"].size(), "category", "categories") + ", " +
+           Plural(document["acronyms"].size(), "acronym", "acronyms") + ".\n";
+    return out;
+}
+
+// ---------------------------------------------------------------- collector
+
+std::string FindCollector(const std::string& catalog, const std::string& osCode)
+{
+    LoadCatalog(catalog);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    const VELString code(osCode.c_str());
+    std::vector<QRMInventoryComponent> collectors;
+    api->GetInventoryComponents(collectors);
+    std::string known;
+    bool found = false;
+    for (const QRMInventoryComponent& collector : collectors) {
+        found = found || collector.GetOSCode() == code;
+        known += (known.empty() ? "" : ", ") + Utf8(collector.GetOSCode());
+    }
+    if (!found) {
+        throw ToolError(catalog + ": no inventory collector for operating system code \"" + osCode + "\" (" +
+                        (known.empty() ? std::string("the catalog lists none") : "known codes: " + known) + ")");
+    }
+    // The catalog is parsed, so this lookup stays silent.
+    return Utf8(api->GetInventoryFile(InventoryArchitecture(), code)) + "\n";
+}
+
+// ---------------------------------------------------------------- compare
+
+std::string CompareVersions(const std::string& first, const std::string& second)
+{
+    int order = QRMKitAPI::Instance()->CompareVersion(VELString(first.c_str()), VELString(second.c_str()));
+    switch (order) {
+    case 1: return first + " > " + second + "\n";
+    case 0: return first + " = " + second + "\n";
+    case -1: return first + " < " + second + "\n";
+    default: break;
+    }
+    throw ToolError("cannot compare \"" + first + "\" with \"" + second +
+                    "\": only versions written in ASCII characters can be compared");
+}
+
+}  // namespace qrmtool

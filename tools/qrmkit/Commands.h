@@ -1,0 +1,41 @@
+// The qrmkit commands. Each "Collect" function loads what it needs and
+// gathers everything into a JSON document (the command's --json output)
+// before anything is printed; the matching "Render" function turns that
+// document into the human-readable table. Failures are thrown as ToolError.
+#ifndef QRMKIT_TOOL_COMMANDS_H
+#define QRMKIT_TOOL_COMMANDS_H
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+namespace qrmtool {
+
+using Json = nlohmann::ordered_json;
+
+// `bundleType` is "auto" or a bundle type text ("BTW64").
+Json CollectUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
+std::string RenderUpdates(const Json& document);
+
+Json CollectBundles(const std::string& catalog, const std::string& inventory);
+std::string RenderBundles(const Json& document);
+
+Json CollectCatalog(const std::string& catalog);
+std::string RenderCatalog(const Json& document);
+
+Json CollectInventory(const std::string& inventory);
+std::string RenderInventory(const Json& document);
+
+Json CollectCategories(const std::string& catalog);
+std::string RenderCategories(const Json& document);
+
+// The full location of the inventory collector for an operating system
+// code, followed by a line end.
+std::string FindCollector(const std::string& catalog, const std::string& osCode);
+
+// "V1 < V2", "V1 = V2" or "V1 > V2", followed by a line end.
+std::string CompareVersions(const std::string& first, const std::string& second);
+
+}  // namespace qrmtool
+
+#endif

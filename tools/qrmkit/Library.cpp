@@ -1,0 +1,108 @@
+#include "Library.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <vector>
+
+namespace qrmtool {
+
+namespace {
+
+std::string Describe(const std::string& path, QRMKitReturnCode code, bool catalog)
+{
+    switch (code) {
+    case QRM_KIT_SUCCESS:
+        return std::string();
+    case QRM_KIT_NOT_FOUND: {
+        std::error_code error;
+        if (std::filesystem::is_directory(std::filesystem::path(path), error)) {
+            return "this is a directory, not a file";
+        }
+        return "the file does not exist";
+    }
+    case QRM_KIT_FAILURE:
+        if (catalog) {
+            return "not a readable catalog: the file cannot be read as an XML document";
+        }
+        return "not a readable inventory: the file cannot be read as an XML document, its root element has no "
+               "\"lang\", or an OperatingSystem, System or last Device entry is faulty";
+    case QRM_KIT_ELEMENT_MISSING:
+        return "a required element is missing: a SoftwareBundle or SoftwareComponent entry lacks one of its "
+               "required child elements (or has it more than once)";
+    case QRM_KIT_ALREADY_EXISTS:
+        break;
+    }
+    std::string name = QRMKitReturnCodeName(code);
+    return "the file could not be read (" + (name.empty() ? "result " + std::to_string(static_cast<int>(code)) : name) +
+           ")";
+}
+
+void Check(const std::string& path, QRMKitReturnCode code, bool catalog)
+{
+    if (code != QRM_KIT_SUCCESS) {
+        throw ToolError(path + ": " + Describe(path, code, catalog));
+    }
+}
+
+}  // namespace
+
+void LoadCatalog(const std::string& path)
+{
+    Check(path, QRMKitAPI::Instance()->Parse(VELFile(path)), true);
+}
+
+void LoadInventory(const std::string& path)
+{
+    Check(path, QRMKitAPI::Instance()->ParseInventory(VELFile(path)), false);
+}
+
+std::string Utf8(const VELString& text) { return text.GetUTF8String(); }
+
+std::string FirstText(const QRMDisplayList& texts)
+{
+    std::vector<QRMDisplay> values;
+    texts.GetDisplayValues(values);
+    return values.empty() ? std::string() : Utf8(values.front().GetValue());
+}
+
+std::string Hex(unsigned long long value, int digits)
+{
+    char buffer[32];
+    std::snprintf(buffer, sizeof buffer, "%0*llX", digits, value);
+    return buffer;
+}
+
+std::string CriticalityWord(QRMCriticalityValueEnum value)
+{
+    switch (value) {
+    case QRM_CRITICALITY_LEVEL1: return "1";
+    case QRM_CRITICALITY_LEVEL2: return "2";
+    case QRM_CRITICALITY_LEVEL3: return "3";
+    case QRM_CRITICALITY_UNSPECIFIED: break;
+    }
+    return "unspecified";
+}
+
+namespace {
+
+std::string OrUnknown(const char* text) { return text == nullptr || *text == '\0' ? "unknown" : text; }
+
+}  // namespace
+
+std::string ComponentTypeWord(QRMComponentTypeValueEnum value) { return OrUnknown(QRMComponentTypeText(value)); }
+
+std::string BundleTypeWord(QRMBundleTypeEnum value) { return OrUnknown(QRMBundleTypeText(value)); }
+
+std::string ArchitectureWord(QRMOSArchitectureEnum value) { return OrUnknown(QRMOSArchitectureText(value)); }
+
+std::string StatusWord(int comparison)
+{
+    switch (comparison) {
+    case 1: return "newer";
+    case 0: return "same";
+    case -1: return "older";
+    default: return "unknown";
+    }
+}
+
+}  // namespace qrmtool

@@ -1,0 +1,51 @@
+// qrmkit's bridge to the library: loading the two documents with errors in
+// words, and the texts the tool prints for the library's values.
+#ifndef QRMKIT_TOOL_LIBRARY_H
+#define QRMKIT_TOOL_LIBRARY_H
+
+#include <QRMKit.h>
+
+#include <array>
+#include <stdexcept>
+#include <string>
+
+namespace qrmtool {
+
+// A failure to report to the user: one line, exit status 2. The message
+// names the file concerned (when there is one) and says what is wrong.
+class ToolError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Parse the catalog / the inventory, or throw a ToolError that says why not.
+void LoadCatalog(const std::string& path);
+void LoadInventory(const std::string& path);
+
+// Every bundle type, in enumeration order.
+constexpr std::array<QRMBundleTypeEnum, 6> kBundleTypes = {QRM_BUNDLE_BTW32, QRM_BUNDLE_BTW64, QRM_BUNDLE_BTLX,
+                                                           QRM_BUNDLE_BTRPM, QRM_BUNDLE_BTDEB, QRM_BUNDLE_BTOSIND};
+constexpr std::array<QRMComponentTypeValueEnum, 6> kComponentTypes = {
+    QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW, QRM_COMPONENT_BIOS, QRM_COMPONENT_APAC, QRM_COMPONENT_APP,
+    QRM_COMPONENT_DRVR};
+constexpr std::array<QRMCriticalityValueEnum, 4> kCriticalities = {
+    QRM_CRITICALITY_LEVEL1, QRM_CRITICALITY_LEVEL2, QRM_CRITICALITY_LEVEL3, QRM_CRITICALITY_UNSPECIFIED};
+
+std::string Utf8(const VELString& text);
+// The first of the texts of a display list ("" when it has none).
+std::string FirstText(const QRMDisplayList& texts);
+// Upper-case hexadecimal with at least `digits` digits ("0A6B").
+std::string Hex(unsigned long long value, int digits = 4);
+// "1", "2", "3" or "unspecified".
+std::string CriticalityWord(QRMCriticalityValueEnum value);
+// The XML text of the type; "unknown" for a value outside the enumeration.
+std::string ComponentTypeWord(QRMComponentTypeValueEnum value);
+std::string BundleTypeWord(QRMBundleTypeEnum value);
+std::string ArchitectureWord(QRMOSArchitectureEnum value);
+// "newer", "same", "older" or "unknown" from a CompareVersion result
+// (available compared with installed).
+std::string StatusWord(int comparison);
+
+}  // namespace qrmtool
+
+#endif

@@ -1,0 +1,67 @@
+// Plain-text tables for qrmkit's human output: aligned columns that fit a
+// given width, long cells cut with an ellipsis.
+#ifndef QRMKIT_TOOL_TABLE_H
+#define QRMKIT_TOOL_TABLE_H
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace qrmtool {
+
+// The number of terminal columns a UTF-8 text takes, counted as one per
+// code point.
+std::size_t DisplayWidth(const std::string& text);
+
+// The text cut to at most `width` columns. A cut text ends with "…" (or,
+// with `keepEnd`, begins with it and keeps the end of the text, which suits
+// paths).
+std::string Fit(const std::string& text, std::size_t width, bool keepEnd = false);
+
+// The text with every control character (tabs, line ends) turned into a
+// space, so that a catalog text cannot break a table line.
+std::string OneLine(const std::string& text);
+
+struct Column {
+    std::string header;
+    // Columns that may be made narrower than their widest cell when the
+    // table is too wide; never below `minWidth` (nor below the header).
+    bool shrinkable = false;
+    std::size_t minWidth = 0;
+    // Cut cells from the front instead of the back.
+    bool keepEnd = false;
+};
+
+class Table {
+public:
+    explicit Table(std::vector<Column> columns, std::size_t indent = 0);
+
+    // One row of cells, one per column (missing cells are empty).
+    void AddRow(std::vector<std::string> cells);
+    // A line outside the columns (a group heading, a note), written with its
+    // own indentation and cut to the table's width.
+    void AddLine(std::string text, std::size_t indent = 0, bool keepEnd = false);
+
+    // The header and every line, each ending with "\n", none wider than
+    // `maxWidth` columns as long as the columns' minimum widths allow it.
+    std::string Render(std::size_t maxWidth) const;
+
+private:
+    struct Entry {
+        bool isLine = false;
+        std::vector<std::string> cells;
+        std::size_t indent = 0;
+        bool keepEnd = false;
+    };
+
+    std::vector<Column> mColumns;
+    std::size_t mIndent;
+    std::vector<Entry> mEntries;
+};
+
+// The width every qrmkit table is made to fit.
+constexpr std::size_t kMaxWidth = 100;
+
+}  // namespace qrmtool
+
+#endif
