@@ -169,7 +169,9 @@ QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& osNode, QRMOSArchitecture
 
 QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
 {
-    QRMSoftwareBundle bundle;
+    // Built in place and handed over to the store, never copied.
+    std::unique_ptr<QRMSoftwareBundle> entry(new QRMSoftwareBundle);
+    QRMSoftwareBundle& bundle = *entry;
     QRMKitReturnCode result = ReadNameTypeDescription(*node, bundle);
     if (result != QRM_KIT_SUCCESS) {
         return result;
@@ -233,12 +235,14 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
     QRMBundleTypeFromText(AttributeOrEmpty(*node, "bundleType"), bundleType);
     bundle.SetBundleType(bundleType);
 
-    return mCatalogManifest.AddSoftwareBundle(bundle);
+    return mCatalogManifest.AddSoftwareBundle(std::move(entry));
 }
 
 QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
 {
-    QRMSoftwareComponent component;
+    // Built in place and handed over to the store, never copied.
+    std::unique_ptr<QRMSoftwareComponent> entry(new QRMSoftwareComponent);
+    QRMSoftwareComponent& component = *entry;
     QRMKitReturnCode result = ReadNameTypeDescription(*node, component);
     if (result != QRM_KIT_SUCCESS) {
         return result;
@@ -335,7 +339,7 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
 
     // The first text recorded for a code stays.
     mCatalogManifest.AddCategoryValue(category.GetCode(), categoryText);
-    return mCatalogManifest.AddSoftwareComponent(component);
+    return mCatalogManifest.AddSoftwareComponent(std::move(entry));
 }
 
 QRMKitReturnCode QRMKitAPI::ParseInventoryComponent(VELXMLNode*& node)

@@ -45,15 +45,15 @@ QRMKitReturnCode QRMManifest::SetParsed() { return qrm::Store(mParsed, true); }
 
 bool QRMManifest::IsParsed() const { return mParsed; }
 
-QRMKitReturnCode QRMManifest::AddSoftwareComponent(const QRMSoftwareComponent& component)
+QRMKitReturnCode QRMManifest::AddSoftwareComponent(std::unique_ptr<QRMSoftwareComponent> component)
 {
-    mSoftwareComponents.Append(component);
+    mSoftwareComponents.Append(std::move(component));
     return QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode QRMManifest::AddSoftwareBundle(const QRMSoftwareBundle& bundle)
+QRMKitReturnCode QRMManifest::AddSoftwareBundle(std::unique_ptr<QRMSoftwareBundle> bundle)
 {
-    mSoftwareBundles.Append(bundle);
+    mSoftwareBundles.Append(std::move(bundle));
     return QRM_KIT_SUCCESS;
 }
 

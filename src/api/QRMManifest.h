@@ -13,6 +13,7 @@
 #include "VELTime.h"
 
 #include <map>
+#include <memory>
 #include <vector>
 
 class QRMManifest {
@@ -41,10 +42,11 @@ public:
     QRMKitReturnCode SetParsed();
     bool IsParsed() const;
 
-    // Append a copy; duplicates are kept (two catalog entries with the same
-    // identifier are both listed).
-    QRMKitReturnCode AddSoftwareComponent(const QRMSoftwareComponent& component);
-    QRMKitReturnCode AddSoftwareBundle(const QRMSoftwareBundle& bundle);
+    // Append at the end; duplicates are kept (two catalog entries with the
+    // same identifier are both listed). Components and bundles are taken
+    // over as the reader built them, never copied.
+    QRMKitReturnCode AddSoftwareComponent(std::unique_ptr<QRMSoftwareComponent> component);
+    QRMKitReturnCode AddSoftwareBundle(std::unique_ptr<QRMSoftwareBundle> bundle);
     QRMKitReturnCode AddInventoryComponent(const QRMInventoryComponent& component);
 
     // Insert, not overwrite: a key already present keeps its first text.
