@@ -51,7 +51,6 @@ public:
 protected:
     // The held objects themselves, for the holders that hand them out.
     void AppendDisplayPointers(std::vector<QRMDisplay*>& out) const;
-    const QRMOwnedList<QRMDisplay>& DisplayEntries() const { return mDisplayValues; }
 
 private:
     QRMOwnedList<QRMDisplay> mDisplayValues;

@@ -39,11 +39,9 @@ public:
     ~QRMOwnedList() { Clear(); }
 
     std::size_t Size() const { return mItems.size(); }
-    bool IsEmpty() const { return mItems.empty(); }
     T* At(std::size_t index) const { return mItems[index]; }
     const_iterator begin() const { return mItems.begin(); }
     const_iterator end() const { return mItems.end(); }
-    void Reserve(std::size_t count) { mItems.reserve(count); }
 
     // Appends a heap copy of `item` and returns it.
     T* Append(const T& item)

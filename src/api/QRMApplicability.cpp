@@ -8,6 +8,22 @@
 #include <algorithm>
 #include <unordered_map>
 
+namespace {
+
+// The text after the last `separator`; the whole text when there is none.
+// Gives a package path's file name and a bundle id's number.
+VELString TextAfterLast(const VELString& text, char16_t separator)
+{
+    std::size_t found = text.GetUTF16String().rfind(separator);
+    if (found == std::u16string::npos) {
+        return text;
+    }
+    unsigned int start = static_cast<unsigned int>(found + 1);
+    return text.SubString(start, text.GetLength() - start);
+}
+
+}  // namespace
+
 QRMSoftwareBundle* QRMKitAPI::GetApplicableBundle(QRMBundleTypeEnum bundleType) const
 {
     const unsigned int systemID = GetSystemIDFromInventory();
@@ -32,28 +48,12 @@ unsigned int QRMKitAPI::GetGreatestBundleNumber(QRMBundleTypeEnum bundleType) co
         if (bundle->GetBundleType() != bundleType) {
             continue;
         }
-        const VELString bundleID = bundle->GetBundleID();
-        const std::u16string& units = bundleID.GetUTF16String();
-        std::size_t dot = units.rfind(u'.');
-        unsigned int start = dot == std::u16string::npos ? 0 : static_cast<unsigned int>(dot + 1);
-        unsigned int number = bundleID.SubString(start, bundleID.GetLength() - start).GetIntValue(std::dec);
-        greatest = std::max(greatest, number);
+        greatest = std::max(greatest, TextAfterLast(bundle->GetBundleID(), u'.').GetIntValue(std::dec));
     }
     return greatest;
 }
 
 namespace {
-
-// The file name of a package path: everything after its last "/".
-VELString FileName(const VELString& path)
-{
-    std::size_t slash = path.GetUTF16String().rfind(u'/');
-    if (slash == std::u16string::npos) {
-        return path;
-    }
-    unsigned int start = static_cast<unsigned int>(slash + 1);
-    return path.SubString(start, path.GetLength() - start);
-}
 
 struct VELStringHash {
     std::size_t operator()(const VELString& text) const
@@ -93,7 +93,7 @@ struct CandidateIndex {
         // The catalog's components by file name, in catalog order.
         std::unordered_map<VELString, std::vector<QRMSoftwareComponent*>, VELStringHash> byFileName;
         for (QRMSoftwareComponent* component : components) {
-            byFileName[FileName(component->GetPath())].push_back(component);
+            byFileName[TextAfterLast(component->GetPath(), u'/')].push_back(component);
         }
         std::vector<QRMBundleContent> packages;
         bundle.GetContents(packages);
@@ -109,7 +109,10 @@ struct CandidateIndex {
                 devices.clear();
                 component->GetSupportedDevices(devices);
                 for (const QRMDevice* device : devices) {
-                    byComponentID[device->GetComponentID()].push_back({component, type, 0, 0});
+                    // Component id 0 means "identified by PCI ids": never looked up.
+                    if (device->GetComponentID() != 0) {
+                        byComponentID[device->GetComponentID()].push_back({component, type, 0, 0});
+                    }
                     pciInfo.clear();
                     device->GetPCIInfo(pciInfo);
                     for (const QRMPCIInfo* pci : pciInfo) {

@@ -32,11 +32,6 @@ QRMInventoryLanguageEnum QRMIInventory::GetLanguage() const { return mLanguage; 
 VELString QRMIInventory::GetSchemaVersion() const { return mSchemaVersion; }
 VELTime QRMIInventory::GetTimeStamp() const { return mTimeStamp; }
 
-void QRMIInventory::AppendDevices(std::vector<QRMIDevice*>& devices) const { mDevices.AppendPointersTo(devices); }
-void QRMIInventory::CopySystems(std::vector<QRMISystem>& systems) const { mSystems.AppendCopiesTo(systems); }
-void QRMIInventory::CopyOperatingSystems(std::vector<QRMOperatingSystem>& oses) const
-{
-    mOperatingSystems.AppendCopiesTo(oses);
-}
+const QRMOwnedList<QRMOperatingSystem>& QRMIInventory::OperatingSystems() const { return mOperatingSystems; }
 const QRMOwnedList<QRMISystem>& QRMIInventory::Systems() const { return mSystems; }
 const QRMOwnedList<QRMIDevice>& QRMIInventory::Devices() const { return mDevices; }

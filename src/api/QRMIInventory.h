@@ -35,10 +35,7 @@ public:
     QRMInventoryLanguageEnum GetLanguage() const;
     VELString GetSchemaVersion() const;
     VELTime GetTimeStamp() const;
-    // Append to the caller's vector, in stored order, without clearing it.
-    void AppendDevices(std::vector<QRMIDevice*>& devices) const;
-    void CopySystems(std::vector<QRMISystem>& systems) const;
-    void CopyOperatingSystems(std::vector<QRMOperatingSystem>& oses) const;
+    const QRMOwnedList<QRMOperatingSystem>& OperatingSystems() const;
     const QRMOwnedList<QRMISystem>& Systems() const;
     const QRMOwnedList<QRMIDevice>& Devices() const;
 

@@ -250,7 +250,7 @@ QRMKitReturnCode QRMKitAPI::GetInventory(std::vector<QRMIDevice*>& devices) cons
     if (!mInventory.IsParsed()) {
         return QRM_KIT_FAILURE;
     }
-    mInventory.AppendDevices(devices);
+    mInventory.Devices().AppendPointersTo(devices);
     return QRM_KIT_SUCCESS;
 }
 
@@ -262,10 +262,10 @@ unsigned int QRMKitAPI::GetSystemIDFromInventory() const
 
 void QRMKitAPI::GetInventoryOperatingSystems(std::vector<QRMOperatingSystem>& oses) const
 {
-    mInventory.CopyOperatingSystems(oses);
+    mInventory.OperatingSystems().AppendCopiesTo(oses);
 }
 
-void QRMKitAPI::GetInventorySystems(std::vector<QRMISystem>& systems) const { mInventory.CopySystems(systems); }
+void QRMKitAPI::GetInventorySystems(std::vector<QRMISystem>& systems) const { mInventory.Systems().AppendCopiesTo(systems); }
 
 QRMInventoryLanguageEnum QRMKitAPI::GetInventoryLanguage() const { return mInventory.GetLanguage(); }
 

@@ -131,17 +131,17 @@ VELString QRMKitAPI::GetBaseLocation() const
 
 void QRMKitAPI::GetSoftwareComponents(std::vector<QRMSoftwareComponent*>& components) const
 {
-    mCatalogManifest.GetSoftwareComponents(components);
+    mCatalogManifest.SoftwareComponents().AppendPointersTo(components);
 }
 
 void QRMKitAPI::GetSoftwareBundles(std::vector<QRMSoftwareBundle*>& bundles) const
 {
-    mCatalogManifest.GetSoftwareBundles(bundles);
+    mCatalogManifest.SoftwareBundles().AppendPointersTo(bundles);
 }
 
 void QRMKitAPI::GetInventoryComponents(std::vector<QRMInventoryComponent>& components) const
 {
-    mCatalogManifest.GetInventoryComponents(components);
+    mCatalogManifest.InventoryComponents().AppendCopiesTo(components);
 }
 
 VELString QRMKitAPI::GetCatalogReleaseID() const { return mCatalogManifest.GetReleaseID(); }

@@ -82,21 +82,6 @@ void QRMManifest::GetCategoryAcronymMap(TextMap& acronyms) const
     CopyInto(mCategoryAcronyms, acronyms);
 }
 
-void QRMManifest::GetSoftwareComponents(std::vector<QRMSoftwareComponent*>& components) const
-{
-    mSoftwareComponents.AppendPointersTo(components);
-}
-
-void QRMManifest::GetSoftwareBundles(std::vector<QRMSoftwareBundle*>& bundles) const
-{
-    mSoftwareBundles.AppendPointersTo(bundles);
-}
-
-void QRMManifest::GetInventoryComponents(std::vector<QRMInventoryComponent>& components) const
-{
-    mInventoryComponents.AppendCopiesTo(components);
-}
-
 const QRMOwnedList<QRMSoftwareComponent>& QRMManifest::SoftwareComponents() const
 {
     return mSoftwareComponents;

@@ -57,9 +57,6 @@ public:
     void GetCategoryValueMap(TextMap& values) const;
     void GetCategoryAcronymMap(TextMap& acronyms) const;
 
-    void GetSoftwareComponents(std::vector<QRMSoftwareComponent*>& components) const;
-    void GetSoftwareBundles(std::vector<QRMSoftwareBundle*>& bundles) const;
-    void GetInventoryComponents(std::vector<QRMInventoryComponent>& components) const;
     const QRMOwnedList<QRMSoftwareComponent>& SoftwareComponents() const;
     const QRMOwnedList<QRMSoftwareBundle>& SoftwareBundles() const;
     const QRMOwnedList<QRMInventoryComponent>& InventoryComponents() const;
