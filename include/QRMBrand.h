@@ -13,16 +13,18 @@ public:
     QRMBrand();
     QRMBrand(const QRMBrand& other);
     QRMBrand& operator=(const QRMBrand& other);
+    QRMBrand(QRMBrand&& other);
+    QRMBrand& operator=(QRMBrand&& other);
     ~QRMBrand();
 
     unsigned int GetKey() const;
     // Stores the decimal integer value of the text.
-    QRMKitReturnCode SetKey(const VELString& key);
+    QRMKitReturnCode SetKey(VELString key);
     VELString GetPrefix() const;
-    QRMKitReturnCode SetPrefix(const VELString& prefix);
+    QRMKitReturnCode SetPrefix(VELString prefix);
 
     // Appends a copy of the model.
-    QRMKitReturnCode AddModel(const QRMModel& model);
+    QRMKitReturnCode AddModel(QRMModel model);
     // Appends the held models themselves, in order; `out` is not cleared.
     void GetModels(std::vector<QRMModel*>& out) const;
 

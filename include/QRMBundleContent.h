@@ -12,12 +12,14 @@ public:
     QRMBundleContent();
     QRMBundleContent(const QRMBundleContent& other);
     QRMBundleContent& operator=(const QRMBundleContent& other);
+    QRMBundleContent(QRMBundleContent&& other);
+    QRMBundleContent& operator=(QRMBundleContent&& other);
     ~QRMBundleContent();
 
     VELString GetPackageID() const;
-    QRMKitReturnCode SetPackageID(const VELString& packageID);
+    QRMKitReturnCode SetPackageID(VELString packageID);
     VELString GetPath() const;
-    QRMKitReturnCode SetPath(const VELString& path);
+    QRMKitReturnCode SetPath(VELString path);
     // Never set by the catalog reader: the nil GUID unless a caller sets it.
     VELGUID GetIdentifier() const;
     QRMKitReturnCode SetIdentifier(const VELGUID& identifier);

@@ -7,7 +7,7 @@
 class QRMKIT_API QRMCategory : public QRMTextsDisplayList<QRMCategory, 1> {
 public:
     VELString GetCode() const { return GetText(0); }
-    QRMKitReturnCode SetCode(const VELString& code) { return SetText(0, code); }
+    QRMKitReturnCode SetCode(VELString code) { return SetText(0, std::move(code)); }
 };
 
 #endif

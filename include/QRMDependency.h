@@ -16,18 +16,20 @@ public:
     QRMDependency();
     QRMDependency(const QRMDependency& other);
     QRMDependency& operator=(const QRMDependency& other);
+    QRMDependency(QRMDependency&& other);
+    QRMDependency& operator=(QRMDependency&& other);
     ~QRMDependency();
 
     unsigned int GetType() const;
     QRMKitReturnCode SetType(unsigned int type);
     VELString GetName() const;
-    QRMKitReturnCode SetName(const VELString& name);
+    QRMKitReturnCode SetName(VELString name);
     VELString GetVersion() const;
-    QRMKitReturnCode SetVersion(const VELString& version);
+    QRMKitReturnCode SetVersion(VELString version);
     VELGUID GetIdentifier() const;
     QRMKitReturnCode SetIdentifier(const VELGUID& identifier);
     VELString GetPath() const;
-    QRMKitReturnCode SetPath(const VELString& path);
+    QRMKitReturnCode SetPath(VELString path);
     unsigned long long GetSize() const;
     QRMKitReturnCode SetSize(unsigned long long size);
     unsigned int GetFlags() const;
@@ -35,9 +37,9 @@ public:
 
     // QRM_KIT_ALREADY_EXISTS when an equal entry is held, else append a copy;
     // the getters append copies in order.
-    QRMKitReturnCode AddPCIInfo(const QRMPCIInfo& pciInfo);
+    QRMKitReturnCode AddPCIInfo(QRMPCIInfo pciInfo);
     void GetPCIInfo(std::vector<QRMPCIInfo>& out) const;
-    QRMKitReturnCode AddPnPInfo(const QRMPnPInfo& pnpInfo);
+    QRMKitReturnCode AddPnPInfo(QRMPnPInfo pnpInfo);
     void GetPnPInfo(std::vector<QRMPnPInfo>& out) const;
 
     // The fields in order, the texts by the language-matching rule, then the

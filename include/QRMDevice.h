@@ -22,6 +22,8 @@ public:
     QRMDevice();
     QRMDevice(const QRMDevice& other);
     QRMDevice& operator=(const QRMDevice& other);
+    QRMDevice(QRMDevice&& other);
+    QRMDevice& operator=(QRMDevice&& other);
     ~QRMDevice();
 
     unsigned long long GetComponentID() const;
@@ -47,9 +49,9 @@ public:
     // last one the entry that followed it is reset to a new, empty record
     // and stays in the list. Kept for compatibility: removal has always
     // behaved this way.
-    QRMKitReturnCode AddPCIInfo(const QRMPCIInfo& pciInfo);
+    QRMKitReturnCode AddPCIInfo(QRMPCIInfo pciInfo);
     QRMKitReturnCode RemovePCIInfo(const QRMPCIInfo& pciInfo);
-    QRMKitReturnCode AddPnPInfo(const QRMPnPInfo& pnpInfo);
+    QRMKitReturnCode AddPnPInfo(QRMPnPInfo pnpInfo);
     QRMKitReturnCode RemovePnPInfo(const QRMPnPInfo& pnpInfo);
     QRMKitReturnCode AddSubComponent(QRMSubComponent& subComponent);
     QRMKitReturnCode RemoveSubComponent(QRMSubComponent& subComponent);

@@ -9,15 +9,17 @@
 class QRMKIT_API QRMDisplay {
 public:
     QRMDisplay();
-    QRMDisplay(const VELString& language, const VELString& value);
+    QRMDisplay(VELString language, VELString value);
     QRMDisplay(const QRMDisplay& other);
     QRMDisplay& operator=(const QRMDisplay& other);
+    QRMDisplay(QRMDisplay&& other);
+    QRMDisplay& operator=(QRMDisplay&& other);
     ~QRMDisplay();
 
     VELString GetLanguage() const;
     VELString GetValue() const;
-    QRMKitReturnCode SetLanguage(const VELString& language);
-    QRMKitReturnCode SetValue(const VELString& value);
+    QRMKitReturnCode SetLanguage(VELString language);
+    QRMKitReturnCode SetValue(VELString value);
 
     // Both texts equal, exactly.
     bool operator==(const QRMDisplay& other) const;

@@ -19,11 +19,13 @@ public:
     // Deep copies, in order. Assigning a list to itself empties it.
     QRMDisplayList(const QRMDisplayList& other);
     QRMDisplayList& operator=(const QRMDisplayList& other);
+    QRMDisplayList(QRMDisplayList&& other);
+    QRMDisplayList& operator=(QRMDisplayList&& other);
     ~QRMDisplayList();
 
     // QRM_KIT_ALREADY_EXISTS when a text for that language is held (the held
     // text is never replaced); otherwise appends and returns QRM_KIT_SUCCESS.
-    QRMKitReturnCode AddDisplayValue(const VELString& language, const VELString& value);
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
     // QRM_KIT_NOT_FOUND when no text has that language. Otherwise the entry
     // is taken out and the list closes up; when it was not the last entry,
     // the entry that followed it is cleared (it then reads language "" and
@@ -75,7 +77,7 @@ public:
 
 protected:
     VELString GetText(std::size_t index) const { return mTexts[index]; }
-    QRMKitReturnCode SetText(std::size_t index, const VELString& text)
+    QRMKitReturnCode SetText(std::size_t index, VELString text)
     {
         mTexts[index] = text;
         return QRM_KIT_SUCCESS;

@@ -12,12 +12,14 @@ public:
     QRMFMPWrapperInformation();
     QRMFMPWrapperInformation(const QRMFMPWrapperInformation& other);
     QRMFMPWrapperInformation& operator=(const QRMFMPWrapperInformation& other);
+    QRMFMPWrapperInformation(QRMFMPWrapperInformation&& other);
+    QRMFMPWrapperInformation& operator=(QRMFMPWrapperInformation&& other);
     ~QRMFMPWrapperInformation();
 
     bool IsDigitallySigned() const;
     QRMKitReturnCode SetDigitallySigned(bool value);
     VELString GetName() const;
-    QRMKitReturnCode SetName(const VELString& value);
+    QRMKitReturnCode SetName(VELString value);
     bool IsInventorySupported() const;
     QRMKitReturnCode SetInventorySupported(bool value);
     bool IsUpdateSupported() const;
@@ -25,11 +27,11 @@ public:
     VELGUID GetIdentifier() const;
     QRMKitReturnCode SetIdentifier(const VELGUID& value);
     VELString GetFilePath() const;
-    QRMKitReturnCode SetFilePath(const VELString& value);
+    QRMKitReturnCode SetFilePath(VELString value);
     VELString GetDriverName() const;
-    QRMKitReturnCode SetDriverName(const VELString& value);
+    QRMKitReturnCode SetDriverName(VELString value);
     VELString GetDriverVersion() const;
-    QRMKitReturnCode SetDriverVersion(const VELString& value);
+    QRMKitReturnCode SetDriverVersion(VELString value);
     bool IsRollbackSupported() const;
     QRMKitReturnCode SetRollbackSupported(bool value);
 

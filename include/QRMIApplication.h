@@ -12,16 +12,18 @@ public:
     QRMIApplication();
     QRMIApplication(const QRMIApplication& other);
     QRMIApplication& operator=(const QRMIApplication& other);
+    QRMIApplication(QRMIApplication&& other);
+    QRMIApplication& operator=(QRMIApplication&& other);
     ~QRMIApplication();
 
     QRMComponentTypeValueEnum GetComponentType() const;
     QRMKitReturnCode SetComponentType(const QRMComponentTypeValueEnum& componentType);
     VELString GetVersion() const;
-    QRMKitReturnCode SetVersion(const VELString& version);
+    QRMKitReturnCode SetVersion(VELString version);
     VELString GetDisplay() const;
-    QRMKitReturnCode SetDisplay(const VELString& display);
+    QRMKitReturnCode SetDisplay(VELString display);
     VELString GetSubComponentID() const;
-    QRMKitReturnCode SetSubComponentID(const VELString& subComponentID);
+    QRMKitReturnCode SetSubComponentID(VELString subComponentID);
 
     // Component type, version, display, sub-component id, then the texts by
     // the language-matching rule (same count; texts agree where languages

@@ -41,14 +41,14 @@ public:
     unsigned long long GetComponentID() const;
     QRMKitReturnCode SetComponentID(unsigned long long componentID);
     VELString GetDisplay() const;
-    QRMKitReturnCode SetDisplay(const VELString& display);
+    QRMKitReturnCode SetDisplay(VELString display);
 
     // Appends the held applications themselves, in order, without clearing
     // `out`; they stay valid while the device lives.
     void GetApplications(std::vector<QRMIApplication*>& out) const;
     // QRM_KIT_ALREADY_EXISTS when an equal application is held, else a copy
     // is appended.
-    QRMKitReturnCode AddApplication(const QRMIApplication& application);
+    QRMKitReturnCode AddApplication(QRMIApplication application);
     // Takes out the applications equal to `application`, walking from the
     // front and skipping the entry that moves into a freed place. Taken-out
     // applications stay alive (pointers obtained earlier remain valid) until

@@ -12,6 +12,8 @@ public:
     QRMISystem();
     QRMISystem(const QRMISystem& other);
     QRMISystem& operator=(const QRMISystem& other);
+    QRMISystem(QRMISystem&& other);
+    QRMISystem& operator=(QRMISystem&& other);
     ~QRMISystem();
 
     // The number that "systemID" spells in hexadecimal.
@@ -20,9 +22,9 @@ public:
     QRMSystemIDTypeEnum GetSystemIDType() const;
     QRMKitReturnCode SetSystemIDType(QRMSystemIDTypeEnum systemIDType);
     VELString GetDisplay() const;
-    QRMKitReturnCode SetDisplay(const VELString& display);
+    QRMKitReturnCode SetDisplay(VELString display);
     VELString GetServiceTag() const;
-    QRMKitReturnCode SetServiceTag(const VELString& serviceTag);
+    QRMKitReturnCode SetServiceTag(VELString serviceTag);
 
     // System id, id type, display, service tag, then the texts by the
     // language-matching rule.

@@ -8,7 +8,7 @@
 class QRMKIT_API QRMImportantInfo : public QRMTextsDisplayList<QRMImportantInfo, 1> {
 public:
     VELString GetURL() const { return GetText(0); }
-    QRMKitReturnCode SetURL(const VELString& url) { return SetText(0, url); }
+    QRMKitReturnCode SetURL(VELString url) { return SetText(0, std::move(url)); }
 };
 
 #endif

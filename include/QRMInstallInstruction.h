@@ -9,9 +9,9 @@
 class QRMKIT_API QRMInstallInstruction : public QRMTextsDisplayList<QRMInstallInstruction, 2> {
 public:
     VELString GetCommand() const { return GetText(0); }
-    QRMKitReturnCode SetCommand(const VELString& command) { return SetText(0, command); }
+    QRMKitReturnCode SetCommand(VELString command) { return SetText(0, std::move(command)); }
     VELString GetArguments() const { return GetText(1); }
-    QRMKitReturnCode SetArguments(const VELString& arguments) { return SetText(1, arguments); }
+    QRMKitReturnCode SetArguments(VELString arguments) { return SetText(1, std::move(arguments)); }
 };
 
 #endif

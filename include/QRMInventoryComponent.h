@@ -12,24 +12,26 @@ public:
     QRMInventoryComponent();
     QRMInventoryComponent(const QRMInventoryComponent& other);
     QRMInventoryComponent& operator=(const QRMInventoryComponent& other);
+    QRMInventoryComponent(QRMInventoryComponent&& other);
+    QRMInventoryComponent& operator=(QRMInventoryComponent&& other);
     ~QRMInventoryComponent();
 
     VELString GetSchemaVersion() const;
-    QRMKitReturnCode SetSchemaVersion(const VELString& value);
+    QRMKitReturnCode SetSchemaVersion(VELString value);
     VELString GetReleaseID() const;
-    QRMKitReturnCode SetReleaseID(const VELString& value);
+    QRMKitReturnCode SetReleaseID(VELString value);
     VELTime GetReleaseDate() const;
     QRMKitReturnCode SetReleaseDate(const VELTime& value);
     VELString GetVendorVersion() const;
-    QRMKitReturnCode SetVendorVersion(const VELString& value);
+    QRMKitReturnCode SetVendorVersion(VELString value);
     VELString GetTolvarVersion() const;
-    QRMKitReturnCode SetTolvarVersion(const VELString& value);
+    QRMKitReturnCode SetTolvarVersion(VELString value);
     VELString GetOSCode() const;
-    QRMKitReturnCode SetOSCode(const VELString& value);
+    QRMKitReturnCode SetOSCode(VELString value);
     VELString GetMD5Hash() const;
-    QRMKitReturnCode SetMD5Hash(const VELString& value);
+    QRMKitReturnCode SetMD5Hash(VELString value);
     VELString GetPath() const;
-    QRMKitReturnCode SetPath(const VELString& value);
+    QRMKitReturnCode SetPath(VELString value);
     VELTime GetDateTime() const;
     QRMKitReturnCode SetDateTime(const VELTime& value);
     // Not read from the catalog; 0 in a new object.

@@ -8,7 +8,7 @@
 class QRMKIT_API QRMLUCategory : public QRMTextsDisplayList<QRMLUCategory, 1> {
 public:
     VELString GetCode() const { return GetText(0); }
-    QRMKitReturnCode SetCode(const VELString& code) { return SetText(0, code); }
+    QRMKitReturnCode SetCode(VELString code) { return SetText(0, std::move(code)); }
 };
 
 #endif

@@ -15,6 +15,8 @@ public:
     QRMModel();
     QRMModel(const QRMModel& other);
     QRMModel& operator=(const QRMModel& other);
+    QRMModel(QRMModel&& other);
+    QRMModel& operator=(QRMModel&& other);
     ~QRMModel();
 
     unsigned int GetSystemID() const;
@@ -28,7 +30,7 @@ public:
 
     // Brands nested in the model (no reader fills them): QRM_KIT_ALREADY_EXISTS
     // when an equal brand is held, else a copy is appended.
-    QRMKitReturnCode AddSubBrand(const QRMBrand& brand);
+    QRMKitReturnCode AddSubBrand(QRMBrand brand);
     // Appends the held brands themselves, in order; `out` is not cleared.
     void GetSubBrands(std::vector<QRMBrand*>& out) const;
 

@@ -17,12 +17,13 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 template <class T>
 class QRMOwnedList {
 public:
-    typedef typename std::vector<T*>::const_iterator const_iterator;
+    typedef T* const* const_iterator;
 
     QRMOwnedList() = default;
     QRMOwnedList(const QRMOwnedList& other) { AppendCopiesOf(other); }
@@ -34,6 +35,21 @@ public:
         }
         Clear();
         AppendCopiesOf(other);
+        return *this;
+    }
+    // Moving hands the objects over: the same pointers, now owned by the
+    // target; the source is left empty.
+    QRMOwnedList(QRMOwnedList&& other) noexcept : mRetired(std::move(other.mRetired))
+    {
+        mItems.TakeFrom(other.mItems);
+    }
+    QRMOwnedList& operator=(QRMOwnedList&& other) noexcept
+    {
+        if (this != &other) {
+            Clear();
+            mItems.TakeFrom(other.mItems);
+            mRetired = std::move(other.mRetired);
+        }
         return *this;
     }
     ~QRMOwnedList() { Clear(); }
@@ -49,6 +65,14 @@ public:
         std::unique_ptr<T> copy(new T(item));
         mItems.push_back(copy.get());
         return copy.release();
+    }
+
+    // Appends a heap object that takes over the contents of `item`.
+    T* Append(T&& item)
+    {
+        std::unique_ptr<T> moved(new T(std::move(item)));
+        mItems.push_back(moved.get());
+        return moved.release();
     }
 
     // Appends an object built by the caller, taking it over.
@@ -78,13 +102,13 @@ public:
     bool Contains(const T& item) const { return IndexOfEqual(item) < mItems.size(); }
 
     // QRM_KIT_ALREADY_EXISTS when a stored entry equals `item`, else appends
-    // a copy and returns QRM_KIT_SUCCESS.
-    QRMKitReturnCode AddUnique(const T& item)
+    // it and returns QRM_KIT_SUCCESS.
+    QRMKitReturnCode AddUnique(T item)
     {
         if (Contains(item)) {
             return QRM_KIT_ALREADY_EXISTS;
         }
-        Append(item);
+        Append(std::move(item));
         return QRM_KIT_SUCCESS;
     }
 
@@ -96,7 +120,7 @@ public:
             return QRM_KIT_NOT_FOUND;
         }
         delete mItems[index];
-        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
+        mItems.Erase(index);
         return QRM_KIT_SUCCESS;
     }
 
@@ -123,7 +147,7 @@ public:
     void Retire(std::size_t index)
     {
         T* removed = mItems[index];
-        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
+        mItems.Erase(index);
         Keep(removed);
     }
 
@@ -133,11 +157,13 @@ public:
         for (T* item : mItems) {
             delete item;
         }
-        mItems.clear();
-        for (T* item : mRetired) {
-            delete item;
+        mItems.Clear();
+        if (mRetired) {
+            for (T* item : *mRetired) {
+                delete item;
+            }
+            mRetired.reset();
         }
-        mRetired.clear();
     }
 
     // Appends a copy of every entry, in order; `out` is not cleared.
@@ -194,7 +220,7 @@ private:
             return QRM_KIT_NOT_FOUND;
         }
         T* removed = mItems[index];
-        mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(index));
+        mItems.Erase(index);
         if (index == mItems.size()) {
             delete removed;
         } else {
@@ -206,7 +232,7 @@ private:
 
     void AppendCopiesOf(const QRMOwnedList& other)
     {
-        mItems.reserve(other.mItems.size());
+        mItems.Reserve(other.mItems.size());
         for (const T* item : other.mItems) {
             Append(*item);
         }
@@ -215,12 +241,93 @@ private:
     void Keep(T* item)
     {
         std::unique_ptr<T> guard(item);
-        mRetired.push_back(item);
+        if (!mRetired) {
+            mRetired.reset(new std::vector<T*>);
+        }
+        mRetired->push_back(item);
         guard.release();
     }
 
-    std::vector<T*> mItems;
-    std::vector<T*> mRetired;
+    // The entries' pointers. Most lists hold one entry, so the first pointer
+    // has a place of its own and only longer lists take memory from the heap.
+    class Slots {
+    public:
+        Slots() noexcept : mData(&mInline), mSize(0), mCapacity(1), mInline(nullptr) {}
+        Slots(const Slots&) = delete;
+        Slots& operator=(const Slots&) = delete;
+        ~Slots() { ReleaseHeap(); }
+
+        std::size_t size() const { return mSize; }
+        T* operator[](std::size_t index) const { return mData[index]; }
+        T* const* begin() const { return mData; }
+        T* const* end() const { return mData + mSize; }
+
+        void Reserve(std::size_t capacity)
+        {
+            if (capacity <= mCapacity) {
+                return;
+            }
+            T** data = new T*[capacity];
+            for (std::size_t i = 0; i < mSize; ++i) {
+                data[i] = mData[i];
+            }
+            ReleaseHeap();
+            mData = data;
+            mCapacity = capacity;
+        }
+        void push_back(T* item)
+        {
+            if (mSize == mCapacity) {
+                Reserve(mCapacity * 2);
+            }
+            mData[mSize++] = item;
+        }
+        void Erase(std::size_t index)
+        {
+            for (std::size_t i = index + 1; i < mSize; ++i) {
+                mData[i - 1] = mData[i];
+            }
+            --mSize;
+        }
+        void Clear() { mSize = 0; }
+        // Takes over the pointers of `other` (this list's own are dropped,
+        // not released: the caller has released them), leaving it empty.
+        void TakeFrom(Slots& other) noexcept
+        {
+            ReleaseHeap();
+            if (other.mData == &other.mInline) {
+                mInline = other.mInline;
+                mData = &mInline;
+                mCapacity = 1;
+            } else {
+                mData = other.mData;
+                mCapacity = other.mCapacity;
+                other.mData = &other.mInline;
+                other.mCapacity = 1;
+            }
+            mSize = other.mSize;
+            other.mSize = 0;
+        }
+
+    private:
+        void ReleaseHeap()
+        {
+            if (mData != &mInline) {
+                delete[] mData;
+                mData = &mInline;
+                mCapacity = 1;
+            }
+        }
+
+        T** mData;
+        std::size_t mSize;
+        std::size_t mCapacity;
+        T* mInline;
+    };
+
+    Slots mItems;
+    // Entries taken out but not released; created on first use.
+    std::unique_ptr<std::vector<T*>> mRetired;
 };
 
 #endif

@@ -9,6 +9,8 @@ public:
     QRMPCIInfo();
     QRMPCIInfo(const QRMPCIInfo& other);
     QRMPCIInfo& operator=(const QRMPCIInfo& other);
+    QRMPCIInfo(QRMPCIInfo&& other);
+    QRMPCIInfo& operator=(QRMPCIInfo&& other);
     ~QRMPCIInfo();
 
     unsigned int GetDeviceID() const;

@@ -13,16 +13,18 @@ public:
     QRMRollbackInformation();
     QRMRollbackInformation(const QRMRollbackInformation& other);
     QRMRollbackInformation& operator=(const QRMRollbackInformation& other);
+    QRMRollbackInformation(QRMRollbackInformation&& other);
+    QRMRollbackInformation& operator=(QRMRollbackInformation&& other);
     ~QRMRollbackInformation();
 
     VELGUID GetRollbackIdentifier() const;
     QRMKitReturnCode SetRollbackIdentifier(const VELGUID& identifier);
     VELString GetRollbackVersion() const;
-    QRMKitReturnCode SetRollbackVersion(const VELString& version);
+    QRMKitReturnCode SetRollbackVersion(VELString version);
     VELGUID GetPackageIdentifier() const;
     QRMKitReturnCode SetPackageIdentifier(const VELGUID& identifier);
     VELString GetPackagePath() const;
-    QRMKitReturnCode SetPackagePath(const VELString& path);
+    QRMKitReturnCode SetPackagePath(VELString path);
     VELGUID GetSessionIdentifier() const;
     QRMKitReturnCode SetSessionIdentifier(const VELGUID& identifier);
     unsigned short GetSequence() const;
@@ -30,7 +32,7 @@ public:
     unsigned char GetFlags() const;
     QRMKitReturnCode SetFlags(unsigned char flags);
     VELString GetNote() const;
-    QRMKitReturnCode SetNote(const VELString& note);
+    QRMKitReturnCode SetNote(VELString note);
 
     // Every field equal, in field order.
     bool operator==(const QRMRollbackInformation& other) const;

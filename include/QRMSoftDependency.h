@@ -14,11 +14,13 @@ public:
     QRMSoftDependency();
     QRMSoftDependency(const QRMSoftDependency& other);
     QRMSoftDependency& operator=(const QRMSoftDependency& other);
+    QRMSoftDependency(QRMSoftDependency&& other);
+    QRMSoftDependency& operator=(QRMSoftDependency&& other);
     ~QRMSoftDependency();
 
     // QRM_KIT_ALREADY_EXISTS when an equal entry is held, else appends a
     // copy; the getter appends copies in order.
-    QRMKitReturnCode AddApplicability(const QRMDeviceApplicability& applicability);
+    QRMKitReturnCode AddApplicability(QRMDeviceApplicability applicability);
     void GetApplicability(std::vector<QRMDeviceApplicability>& out) const;
 
     // As a dependency, then the applicability entries by the all-pairs rule.

@@ -25,33 +25,35 @@ public:
     QRMSoftwareBundle();
     QRMSoftwareBundle(const QRMSoftwareBundle& other);
     QRMSoftwareBundle& operator=(const QRMSoftwareBundle& other);
+    QRMSoftwareBundle(QRMSoftwareBundle&& other);
+    QRMSoftwareBundle& operator=(QRMSoftwareBundle&& other);
     ~QRMSoftwareBundle();
 
     // Getters return copies; setters store copies and return QRM_KIT_SUCCESS.
     QRMName GetName() const;
-    QRMKitReturnCode SetName(const QRMName& name);
+    QRMKitReturnCode SetName(QRMName name);
     QRMComponentType GetComponentType() const;
-    QRMKitReturnCode SetComponentType(const QRMComponentType& componentType);
+    QRMKitReturnCode SetComponentType(QRMComponentType componentType);
     QRMSupportedSystems GetTargetSystems() const;
-    QRMKitReturnCode SetTargetSystems(const QRMSupportedSystems& systems);
+    QRMKitReturnCode SetTargetSystems(QRMSupportedSystems systems);
     QRMSupportedOperatingSystems GetTargetOSes() const;
-    QRMKitReturnCode SetTargetOSes(const QRMSupportedOperatingSystems& oses);
+    QRMKitReturnCode SetTargetOSes(QRMSupportedOperatingSystems oses);
     QRMRevisionHistory GetRevisionHistory() const;
-    QRMKitReturnCode SetRevisionHistory(const QRMRevisionHistory& history);
+    QRMKitReturnCode SetRevisionHistory(QRMRevisionHistory history);
     QRMImportantInfo GetImportantInfo() const;
-    QRMKitReturnCode SetImportantInfo(const QRMImportantInfo& info);
+    QRMKitReturnCode SetImportantInfo(QRMImportantInfo info);
     VELString GetSchemaVersion() const;
-    QRMKitReturnCode SetSchemaVersion(const VELString& value);
+    QRMKitReturnCode SetSchemaVersion(VELString value);
     VELString GetReleaseID() const;
-    QRMKitReturnCode SetReleaseID(const VELString& value);
+    QRMKitReturnCode SetReleaseID(VELString value);
     VELTime GetDateTime() const;
     QRMKitReturnCode SetDateTime(const VELTime& value);
     VELString GetVendorVersion() const;
-    QRMKitReturnCode SetVendorVersion(const VELString& value);
+    QRMKitReturnCode SetVendorVersion(VELString value);
     VELString GetPath() const;
-    QRMKitReturnCode SetPath(const VELString& value);
+    QRMKitReturnCode SetPath(VELString value);
     VELString GetBundleID() const;
-    QRMKitReturnCode SetBundleID(const VELString& value);
+    QRMKitReturnCode SetBundleID(VELString value);
     // The two identifiers are never set by the catalog reader.
     VELGUID GetIdentifier() const;
     QRMKitReturnCode SetIdentifier(const VELGUID& value);
@@ -62,11 +64,11 @@ public:
 
     // The description's texts, under the rules of every display list.
     void GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const;
-    QRMKitReturnCode AddDescriptionDisplayValue(const VELString& language, const VELString& value);
+    QRMKitReturnCode AddDescriptionDisplayValue(VELString language, VELString value);
     QRMKitReturnCode RemoveDescriptionDisplayValue(const VELString& language);
 
     // Appends a copy of the package entry; duplicates are kept.
-    QRMKitReturnCode AddContent(const QRMBundleContent& content);
+    QRMKitReturnCode AddContent(QRMBundleContent content);
     // Appends copies of the package entries, in order; `out` is not cleared.
     void GetContents(std::vector<QRMBundleContent>& out) const;
 

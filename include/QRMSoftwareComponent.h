@@ -31,53 +31,55 @@ public:
     QRMSoftwareComponent();
     QRMSoftwareComponent(const QRMSoftwareComponent& other);
     QRMSoftwareComponent& operator=(const QRMSoftwareComponent& other);
+    QRMSoftwareComponent(QRMSoftwareComponent&& other);
+    QRMSoftwareComponent& operator=(QRMSoftwareComponent&& other);
     ~QRMSoftwareComponent();
 
     // Getters return copies; setters store copies and return QRM_KIT_SUCCESS.
     QRMName GetName() const;
-    QRMKitReturnCode SetName(const QRMName& name);
+    QRMKitReturnCode SetName(QRMName name);
     QRMComponentType GetComponentType() const;
-    QRMKitReturnCode SetComponentType(const QRMComponentType& componentType);
+    QRMKitReturnCode SetComponentType(QRMComponentType componentType);
     QRMCategory GetCategory() const;
-    QRMKitReturnCode SetCategory(const QRMCategory& category);
+    QRMKitReturnCode SetCategory(QRMCategory category);
     QRMLUCategory GetLUCategory() const;
-    QRMKitReturnCode SetLUCategory(const QRMLUCategory& category);
+    QRMKitReturnCode SetLUCategory(QRMLUCategory category);
     QRMSupportedSystems GetSupportedSystems() const;
-    QRMKitReturnCode SetSupportedSystems(const QRMSupportedSystems& systems);
+    QRMKitReturnCode SetSupportedSystems(QRMSupportedSystems systems);
     QRMSupportedOperatingSystems GetSupportedOperatingSystems() const;
-    QRMKitReturnCode SetSupportedOperatingSystems(const QRMSupportedOperatingSystems& systems);
+    QRMKitReturnCode SetSupportedOperatingSystems(QRMSupportedOperatingSystems systems);
     QRMInstallInstruction GetInstallInstruction() const;
-    QRMKitReturnCode SetInstallInstruction(const QRMInstallInstruction& instruction);
+    QRMKitReturnCode SetInstallInstruction(QRMInstallInstruction instruction);
     QRMRevisionHistory GetRevisionHistory() const;
-    QRMKitReturnCode SetRevisionHistory(const QRMRevisionHistory& history);
+    QRMKitReturnCode SetRevisionHistory(QRMRevisionHistory history);
     QRMImportantInfo GetImportantInfo() const;
-    QRMKitReturnCode SetImportantInfo(const QRMImportantInfo& info);
+    QRMKitReturnCode SetImportantInfo(QRMImportantInfo info);
     QRMCriticality GetCriticality() const;
-    QRMKitReturnCode SetCriticality(const QRMCriticality& criticality);
+    QRMKitReturnCode SetCriticality(QRMCriticality criticality);
     VELGUID GetMSIID() const;
     QRMKitReturnCode SetMSIID(VELGUID& id);
     VELString GetSchemaVersion() const;
-    QRMKitReturnCode SetSchemaVersion(const VELString& value);
+    QRMKitReturnCode SetSchemaVersion(VELString value);
     VELString GetReleaseID() const;
-    QRMKitReturnCode SetReleaseID(const VELString& value);
+    QRMKitReturnCode SetReleaseID(VELString value);
     VELTime GetReleaseDate() const;
     QRMKitReturnCode SetReleaseDate(const VELTime& value);
     VELString GetVendorVersion() const;
-    QRMKitReturnCode SetVendorVersion(const VELString& value);
+    QRMKitReturnCode SetVendorVersion(VELString value);
     VELString GetTolvarVersion() const;
-    QRMKitReturnCode SetTolvarVersion(const VELString& value);
+    QRMKitReturnCode SetTolvarVersion(VELString value);
     VELString GetPackageType() const;
-    QRMKitReturnCode SetPackageType(const VELString& value);
+    QRMKitReturnCode SetPackageType(VELString value);
     VELString GetXMLGenVersion() const;
-    QRMKitReturnCode SetXMLGenVersion(const VELString& value);
+    QRMKitReturnCode SetXMLGenVersion(VELString value);
     VELString GetPath() const;
-    QRMKitReturnCode SetPath(const VELString& value);
+    QRMKitReturnCode SetPath(VELString value);
     VELString GetPackageID() const;
-    QRMKitReturnCode SetPackageID(const VELString& value);
+    QRMKitReturnCode SetPackageID(VELString value);
     VELTime GetDateTime() const;
     QRMKitReturnCode SetDateTime(const VELTime& value);
     VELString GetMD5Hash() const;
-    QRMKitReturnCode SetMD5Hash(const VELString& value);
+    QRMKitReturnCode SetMD5Hash(VELString value);
     unsigned long long GetSize() const;
     QRMKitReturnCode SetSize(unsigned long long value);
     VELGUID GetIdentifier() const;
@@ -93,7 +95,7 @@ public:
     // (QRMDisplayList::AddDisplayValue, RemoveDisplayValue,
     // GetDisplayValues).
     void GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const;
-    QRMKitReturnCode AddDescriptionDisplayValue(const VELString& language, const VELString& value);
+    QRMKitReturnCode AddDescriptionDisplayValue(VELString language, VELString value);
     QRMKitReturnCode RemoveDescriptionDisplayValue(const VELString& language);
 
     // Appends the held devices themselves, in order, without clearing `out`;
@@ -102,6 +104,8 @@ public:
     // QRM_KIT_ALREADY_EXISTS when an equal device is held, else a copy is
     // appended.
     QRMKitReturnCode AddDeviceSupport(QRMDevice& device);
+    // The same, taking over the contents of `device`.
+    QRMKitReturnCode AddDeviceSupport(QRMDevice&& device);
     // QRM_KIT_NOT_FOUND when none is equal; else releases the first equal one.
     QRMKitReturnCode RemoveDeviceSupport(QRMDevice& device);
 

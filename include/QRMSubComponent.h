@@ -9,9 +9,9 @@
 class QRMKIT_API QRMSubComponent : public QRMTextsDisplayList<QRMSubComponent, 2> {
 public:
     VELString GetName() const { return GetText(0); }
-    QRMKitReturnCode SetName(const VELString& name) { return SetText(0, name); }
+    QRMKitReturnCode SetName(VELString name) { return SetText(0, std::move(name)); }
     VELString GetVersion() const { return GetText(1); }
-    QRMKitReturnCode SetVersion(const VELString& version) { return SetText(1, version); }
+    QRMKitReturnCode SetVersion(VELString version) { return SetText(1, std::move(version)); }
 };
 
 #endif

@@ -13,12 +13,16 @@ public:
     QRMSupportedOperatingSystems();
     QRMSupportedOperatingSystems(const QRMSupportedOperatingSystems& other);
     QRMSupportedOperatingSystems& operator=(const QRMSupportedOperatingSystems& other);
+    QRMSupportedOperatingSystems(QRMSupportedOperatingSystems&& other);
+    QRMSupportedOperatingSystems& operator=(QRMSupportedOperatingSystems&& other);
     ~QRMSupportedOperatingSystems();
 
     // Appends a copy of each operating system, in order; `out` is not cleared.
     void GetOSes(std::vector<QRMOperatingSystem>& out) const;
     // QRM_KIT_ALREADY_EXISTS when an equal one is held, else appends a copy.
     QRMKitReturnCode AddOS(QRMOperatingSystem& os);
+    // The same, taking over the contents of `os`.
+    QRMKitReturnCode AddOS(QRMOperatingSystem&& os);
     // QRM_KIT_NOT_FOUND when none is equal; else releases the first equal one.
     QRMKitReturnCode RemoveOS(QRMOperatingSystem& os);
 

@@ -13,10 +13,12 @@ public:
     QRMSupportedSystems();
     QRMSupportedSystems(const QRMSupportedSystems& other);
     QRMSupportedSystems& operator=(const QRMSupportedSystems& other);
+    QRMSupportedSystems(QRMSupportedSystems&& other);
+    QRMSupportedSystems& operator=(QRMSupportedSystems&& other);
     ~QRMSupportedSystems();
 
     // QRM_KIT_ALREADY_EXISTS when an equal brand is held, else appends a copy.
-    QRMKitReturnCode AddBrand(const QRMBrand& brand);
+    QRMKitReturnCode AddBrand(QRMBrand brand);
     // Appends the held brands themselves, in order; `out` is not cleared.
     void GetBrands(std::vector<QRMBrand*>& out) const;
     bool GetDisplay() const;

@@ -1,5 +1,9 @@
 // VELString: a text value held as UTF-16 code units.
 //
+// A text of up to seven code units is held inside the object; a longer one
+// takes one heap block of exactly its length. Catalogs hold millions of
+// texts, so the object is kept small (24 bytes on 64-bit systems).
+//
 // Equality and ordering are code unit by code unit (unsigned), a prefix
 // ordering before the longer text; this is the key order of every map keyed
 // by VELString. Conversion from UTF-8 never fails: malformed input becomes
@@ -11,7 +15,10 @@
 
 #include <cstddef>
 #include <ios>
+#include <cstdint>
+#include <cstring>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // The encoding a character-array constructor assumes for its bytes.
@@ -22,7 +29,7 @@ public:
     // A stream manipulator such as std::dec or std::hex.
     typedef std::ios_base& (*NumberBase)(std::ios_base&);
 
-    VELString();
+    VELString() noexcept { MakeEmpty(); }
     // Builds the text from a NUL-terminated byte string (UTF-8; a null
     // pointer gives the empty text).
     VELString(const char* text, VELCharEncodingType encoding = VEL_CHAR_ENCODING_UTF8);
@@ -30,9 +37,16 @@ public:
     explicit VELString(const std::u16string& units);
     explicit VELString(std::u16string&& units);
     VELString(const VELString& other);
-    VELString(VELString&& other) noexcept;
+    VELString(VELString&& other) noexcept { TakeFrom(other); }
     VELString& operator=(const VELString& other);
-    VELString& operator=(VELString&& other) noexcept;
+    VELString& operator=(VELString&& other) noexcept
+    {
+        if (this != &other) {
+            Release();
+            TakeFrom(other);
+        }
+        return *this;
+    }
     virtual ~VELString();
 
     // Builds the text from `length` bytes of UTF-8 (no terminator needed).
@@ -43,7 +57,11 @@ public:
     bool IsEmpty() const;
 
     std::string GetUTF8String() const;
-    const std::u16string& GetUTF16String() const;
+    // The code units, as a new string.
+    std::u16string GetUTF16String() const;
+    // The code units in place: valid until this text is changed or
+    // destroyed.
+    std::u16string_view GetUTF16View() const { return std::u16string_view(Data(), Size()); }
 
     // The unsigned integer that extracting an `unsigned int` from a
     // std::istringstream of the UTF-8 text after applying `base` would store:
@@ -77,7 +95,55 @@ public:
                                   std::vector<VELString>& out) const;
 
 private:
-    std::u16string mUnits;
+    // mSlots[7] tells the two forms apart. Held in place: mSlots[0..6] are
+    // the units and mSlots[7] is kInlineTag | length. On the heap: the first
+    // eight bytes are the block's address, the next four the length and the
+    // last four zero.
+    static constexpr std::size_t kInline = 7;
+    static constexpr char16_t kInlineTag = 0x8000;
+
+    bool IsInline() const { return (mSlots[kInline] & kInlineTag) != 0; }
+    const char16_t* Data() const { return IsInline() ? mSlots : HeapUnits(); }
+    std::size_t Size() const
+    {
+        if (IsInline()) {
+            return static_cast<std::size_t>(mSlots[kInline] & ~kInlineTag & 0xFFFF);
+        }
+        std::uint32_t size;
+        std::memcpy(&size, reinterpret_cast<const unsigned char*>(mSlots) + sizeof(char16_t*), sizeof size);
+        return size;
+    }
+    char16_t* HeapUnits() const
+    {
+        char16_t* units;
+        std::memcpy(&units, mSlots, sizeof units);
+        return units;
+    }
+    // Drops the held text and makes room for `length` units, which the
+    // caller then fills in.
+    char16_t* Reset(std::size_t length);
+    void Assign(const char16_t* units, std::size_t length);
+    // Frees a heap block and leaves the text empty.
+    void Release()
+    {
+        if (!IsInline()) {
+            ReleaseHeap();
+        }
+        MakeEmpty();
+    }
+    void ReleaseHeap();
+    void MakeEmpty() noexcept
+    {
+        std::memset(mSlots, 0, sizeof mSlots);
+        mSlots[kInline] = kInlineTag;
+    }
+    void TakeFrom(VELString& other) noexcept
+    {
+        std::memcpy(mSlots, other.mSlots, sizeof mSlots);
+        other.MakeEmpty();
+    }
+
+    alignas(8) char16_t mSlots[kInline + 1];
 };
 
 VEL_API bool operator==(const VELString& left, const VELString& right);

@@ -14,8 +14,8 @@ namespace {
 // Gives a package path's file name and a bundle id's number.
 VELString TextAfterLast(const VELString& text, char16_t separator)
 {
-    std::size_t found = text.GetUTF16String().rfind(separator);
-    if (found == std::u16string::npos) {
+    std::size_t found = text.GetUTF16View().rfind(separator);
+    if (found == std::u16string_view::npos) {
         return text;
     }
     unsigned int start = static_cast<unsigned int>(found + 1);
@@ -58,7 +58,7 @@ namespace {
 struct VELStringHash {
     std::size_t operator()(const VELString& text) const
     {
-        return std::hash<std::u16string>()(text.GetUTF16String());
+        return std::hash<std::u16string_view>()(text.GetUTF16View());
     }
 };
 

@@ -16,74 +16,76 @@
 
 using qrm::AttributeNumber;
 using qrm::AttributeOrEmpty;
+using qrm::Element;
 using qrm::Failed;
 using qrm::SingleChild;
 
 namespace {
 
-VELTime TimeAttribute(const VELXMLNode& node, const char* name)
+template <class Node>
+VELTime TimeAttribute(const Node& node, const char* name)
 {
     return VELTime(AttributeNumber(node, name, std::dec));
 }
 
 // Adds the "lang" and text of the element's "Display" child (exactly one),
 // when it has one, to `holder`. QRM_KIT_FAILURE only when the add fails.
-template <class Holder>
-QRMKitReturnCode AddOptionalDisplay(const VELXMLNode& node, Holder& holder)
+template <class Node, class Holder>
+QRMKitReturnCode AddOptionalDisplay(const Node& node, Holder& holder)
 {
-    VELXMLNode* display = SingleChild(node, "Display");
-    if (display == nullptr) {
+    VELXMLNode display = SingleChild(node, "Display");
+    if (display.IsNull()) {
         return QRM_KIT_SUCCESS;
     }
-    return holder.AddDisplayValue(AttributeOrEmpty(*display, "lang"), display->GetValue());
+    return holder.AddDisplayValue(AttributeOrEmpty(display, "lang"), display.GetValue());
 }
 
 // "Name", "ComponentType" and "Description", which bundles and components
 // share. `language` carries the Name's language over to a ComponentType
 // "Display" that has no "lang" of its own.
 template <class Entry>
-QRMKitReturnCode ReadNameTypeDescription(const VELXMLNode& node, Entry& entry)
+QRMKitReturnCode ReadNameTypeDescription(const Element& node, Entry& entry)
 {
-    VELXMLNode* nameNode = SingleChild(node, "Name");
-    if (nameNode == nullptr) {
+    VELXMLNode nameNode = SingleChild(node, "Name");
+    if (nameNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    VELXMLNode* nameDisplay = SingleChild(*nameNode, "Display");
-    if (nameDisplay == nullptr) {
+    VELXMLNode nameDisplay = SingleChild(nameNode, "Display");
+    if (nameDisplay.IsNull()) {
         return QRM_KIT_FAILURE;
     }
-    VELString language = AttributeOrEmpty(*nameDisplay, "lang");
+    VELString language = AttributeOrEmpty(nameDisplay, "lang");
     QRMName name;
-    if (Failed(name.AddDisplayValue(language, nameDisplay->GetValue()))) {
+    if (Failed(name.AddDisplayValue(language, nameDisplay.GetValue()))) {
         return QRM_KIT_FAILURE;
     }
-    entry.SetName(name);
+    entry.SetName(std::move(name));
 
-    VELXMLNode* typeNode = SingleChild(node, "ComponentType");
-    if (typeNode == nullptr) {
+    VELXMLNode typeNode = SingleChild(node, "ComponentType");
+    if (typeNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
     QRMComponentTypeValueEnum code = QRM_COMPONENT_SBDL;
-    QRMComponentTypeFromText(AttributeOrEmpty(*typeNode, "value"), code);
+    QRMComponentTypeFromText(AttributeOrEmpty(typeNode, "value"), code);
     QRMComponentType componentType;
-    if (VELXMLNode* typeDisplay = SingleChild(*typeNode, "Display")) {
-        typeDisplay->GetAttributeValue("lang", language);
-        if (Failed(componentType.AddDisplayValue(language, typeDisplay->GetValue()))) {
+    if (VELXMLNode typeDisplay = SingleChild(typeNode, "Display")) {
+        typeDisplay.GetAttributeValue("lang", language);
+        if (Failed(componentType.AddDisplayValue(language, typeDisplay.GetValue()))) {
             return QRM_KIT_FAILURE;
         }
     }
     if (Failed(componentType.SetValue(code))) {
         return QRM_KIT_FAILURE;
     }
-    entry.SetComponentType(componentType);
+    entry.SetComponentType(std::move(componentType));
 
-    if (VELXMLNode* description = SingleChild(node, "Description")) {
-        VELXMLNode* display = SingleChild(*description, "Display");
-        if (display == nullptr) {
+    if (VELXMLNode description = SingleChild(node, "Description")) {
+        VELXMLNode display = SingleChild(description, "Display");
+        if (display.IsNull()) {
             return QRM_KIT_FAILURE;
         }
-        if (Failed(entry.AddDescriptionDisplayValue(AttributeOrEmpty(*display, "lang"),
-                                                    display->GetValue()))) {
+        if (Failed(entry.AddDescriptionDisplayValue(AttributeOrEmpty(display, "lang"),
+                                                    display.GetValue()))) {
             return QRM_KIT_FAILURE;
         }
     }
@@ -94,35 +96,35 @@ QRMKitReturnCode ReadNameTypeDescription(const VELXMLNode& node, Entry& entry)
 // at most one "Model", added to `systems`.
 QRMKitReturnCode ReadBrand(const VELXMLNode& systemsNode, QRMSupportedSystems& systems)
 {
-    VELXMLNode* brandNode = SingleChild(systemsNode, "Brand");
-    if (brandNode == nullptr) {
+    VELXMLNode brandNode = SingleChild(systemsNode, "Brand");
+    if (brandNode.IsNull()) {
         return QRM_KIT_SUCCESS;
     }
     QRMBrand brand;
-    if (Failed(brand.SetKey(AttributeOrEmpty(*brandNode, "key"))) ||
-        Failed(brand.SetPrefix(AttributeOrEmpty(*brandNode, "prefix"))) ||
-        Failed(AddOptionalDisplay(*brandNode, brand))) {
+    if (Failed(brand.SetKey(AttributeOrEmpty(brandNode, "key"))) ||
+        Failed(brand.SetPrefix(AttributeOrEmpty(brandNode, "prefix"))) ||
+        Failed(AddOptionalDisplay(brandNode, brand))) {
         return QRM_KIT_FAILURE;
     }
-    if (VELXMLNode* modelNode = SingleChild(*brandNode, "Model")) {
+    if (VELXMLNode modelNode = SingleChild(brandNode, "Model")) {
         QRMModel model;
-        if (Failed(model.SetSystemID(AttributeNumber(*modelNode, "systemID", std::hex))) ||
-            Failed(AddOptionalDisplay(*modelNode, model))) {
+        if (Failed(model.SetSystemID(AttributeNumber(modelNode, "systemID", std::hex))) ||
+            Failed(AddOptionalDisplay(modelNode, model))) {
             return QRM_KIT_FAILURE;
         }
-        brand.AddModel(model);
+        brand.AddModel(std::move(model));
     }
-    systems.AddBrand(brand);
+    systems.AddBrand(std::move(brand));
     return QRM_KIT_SUCCESS;
 }
 
 template <class Entry>
-void ReadImportantInfo(const VELXMLNode& node, Entry& entry)
+void ReadImportantInfo(const Element& node, Entry& entry)
 {
-    if (VELXMLNode* infoNode = SingleChild(node, "ImportantInfo")) {
+    if (VELXMLNode infoNode = SingleChild(node, "ImportantInfo")) {
         QRMImportantInfo info;
-        info.SetURL(AttributeOrEmpty(*infoNode, "URL"));
-        entry.SetImportantInfo(info);
+        info.SetURL(AttributeOrEmpty(infoNode, "URL"));
+        entry.SetImportantInfo(std::move(info));
     }
 }
 
@@ -132,24 +134,24 @@ QRMKitReturnCode ReadDevice(const VELXMLNode& deviceNode, QRMDevice& device)
         Failed(device.SetEmbedded(AttributeNumber(deviceNode, "embedded", std::dec) != 0))) {
         return QRM_KIT_FAILURE;
     }
-    std::vector<VELXMLNode*> pciNodes;
-    deviceNode.GetChildren("PCIInfo", pciNodes);
-    for (const VELXMLNode* pciNode : pciNodes) {
+    for (VELXMLNode pciNode = deviceNode.FirstChildElement("PCIInfo"); pciNode;
+         pciNode = pciNode.NextSiblingElement("PCIInfo")) {
         QRMPCIInfo pci;
-        if (Failed(pci.SetDeviceID(AttributeNumber(*pciNode, "deviceID", std::hex))) ||
-            Failed(pci.SetVendorID(AttributeNumber(*pciNode, "vendorID", std::hex))) ||
-            Failed(pci.SetSubDeviceID(AttributeNumber(*pciNode, "subDeviceID", std::hex))) ||
-            Failed(pci.SetSubVendorID(AttributeNumber(*pciNode, "subVendorID", std::hex))) ||
-            Failed(device.AddPCIInfo(pci))) {
+        if (Failed(pci.SetDeviceID(AttributeNumber(pciNode, "deviceID", std::hex))) ||
+            Failed(pci.SetVendorID(AttributeNumber(pciNode, "vendorID", std::hex))) ||
+            Failed(pci.SetSubDeviceID(AttributeNumber(pciNode, "subDeviceID", std::hex))) ||
+            Failed(pci.SetSubVendorID(AttributeNumber(pciNode, "subVendorID", std::hex))) ||
+            Failed(device.AddPCIInfo(std::move(pci)))) {
             return QRM_KIT_FAILURE;
         }
     }
     return AddOptionalDisplay(deviceNode, device);
 }
 
-QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& osNode, QRMOSArchitectureEnum& architecture,
+QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& node, QRMOSArchitectureEnum& architecture,
                                      QRMOperatingSystem& os)
 {
+    Element osNode(node);
     // An unknown "osArch" keeps the architecture of the entry before it:
     // kept for compatibility with catalogs that state it once.
     QRMOSArchitectureFromText(AttributeOrEmpty(osNode, "osArch"), architecture);
@@ -172,67 +174,67 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
     // Built in place and handed over to the store, never copied.
     std::unique_ptr<QRMSoftwareBundle> entry(new QRMSoftwareBundle);
     QRMSoftwareBundle& bundle = *entry;
-    QRMKitReturnCode result = ReadNameTypeDescription(*node, bundle);
+    const Element element(*node);
+    QRMKitReturnCode result = ReadNameTypeDescription(element, bundle);
     if (result != QRM_KIT_SUCCESS) {
         return result;
     }
 
-    if (VELXMLNode* targetSystems = SingleChild(*node, "TargetSystems")) {
+    if (VELXMLNode targetSystems = SingleChild(element, "TargetSystems")) {
         QRMSupportedSystems systems;
-        if (Failed(ReadBrand(*targetSystems, systems))) {
+        if (Failed(ReadBrand(targetSystems, systems))) {
             return QRM_KIT_FAILURE;
         }
-        bundle.SetTargetSystems(systems);
+        bundle.SetTargetSystems(std::move(systems));
     }
 
-    if (VELXMLNode* targetOSes = SingleChild(*node, "TargetOSes")) {
+    if (VELXMLNode targetOSes = SingleChild(element, "TargetOSes")) {
         QRMSupportedOperatingSystems oses;
-        if (VELXMLNode* osNode = SingleChild(*targetOSes, "OperatingSystem")) {
+        if (VELXMLNode osNode = SingleChild(targetOSes, "OperatingSystem")) {
             QRMOperatingSystem os;
-            if (Failed(os.SetCode(AttributeOrEmpty(*osNode, "osCode"))) ||
-                Failed(os.SetVendor(AttributeOrEmpty(*osNode, "osVendor"))) ||
-                Failed(AddOptionalDisplay(*osNode, os)) || Failed(oses.AddOS(os))) {
+            if (Failed(os.SetCode(AttributeOrEmpty(osNode, "osCode"))) ||
+                Failed(os.SetVendor(AttributeOrEmpty(osNode, "osVendor"))) ||
+                Failed(AddOptionalDisplay(osNode, os)) || Failed(oses.AddOS(std::move(os)))) {
                 return QRM_KIT_FAILURE;
             }
         }
-        if (Failed(bundle.SetTargetOSes(oses))) {
+        if (Failed(bundle.SetTargetOSes(std::move(oses)))) {
             return QRM_KIT_FAILURE;
         }
     }
 
-    if (VELXMLNode* historyNode = SingleChild(*node, "RevisionHistory")) {
+    if (VELXMLNode historyNode = SingleChild(element, "RevisionHistory")) {
         QRMRevisionHistory history;
-        AddOptionalDisplay(*historyNode, history);
-        bundle.SetRevisionHistory(history);
+        AddOptionalDisplay(historyNode, history);
+        bundle.SetRevisionHistory(std::move(history));
     }
 
-    ReadImportantInfo(*node, bundle);
+    ReadImportantInfo(element, bundle);
 
-    VELXMLNode* contentsNode = SingleChild(*node, "Contents");
-    if (contentsNode == nullptr) {
+    VELXMLNode contentsNode = SingleChild(element, "Contents");
+    if (contentsNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    std::vector<VELXMLNode*> packages;
-    contentsNode->GetChildren(packages);
-    for (const VELXMLNode* package : packages) {
+    for (VELXMLNode package = contentsNode.FirstChildElement(); package;
+         package = package.NextSiblingElement()) {
         QRMBundleContent content;
-        if (Failed(content.SetPath(AttributeOrEmpty(*package, "path")))) {
+        if (Failed(content.SetPath(AttributeOrEmpty(package, "path")))) {
             return QRM_KIT_FAILURE;
         }
-        content.SetPackageID(AttributeOrEmpty(*package, "packageID"));
-        bundle.AddContent(content);
+        content.SetPackageID(AttributeOrEmpty(package, "packageID"));
+        bundle.AddContent(std::move(content));
     }
 
-    if (Failed(bundle.SetSchemaVersion(AttributeOrEmpty(*node, "schemaVersion"))) ||
-        Failed(bundle.SetReleaseID(AttributeOrEmpty(*node, "releaseID"))) ||
-        Failed(bundle.SetDateTime(TimeAttribute(*node, "dateTime"))) ||
-        Failed(bundle.SetVendorVersion(AttributeOrEmpty(*node, "vendorVersion"))) ||
-        Failed(bundle.SetPath(AttributeOrEmpty(*node, "path"))) ||
-        Failed(bundle.SetBundleID(AttributeOrEmpty(*node, "bundleID")))) {
+    if (Failed(bundle.SetSchemaVersion(AttributeOrEmpty(element, "schemaVersion"))) ||
+        Failed(bundle.SetReleaseID(AttributeOrEmpty(element, "releaseID"))) ||
+        Failed(bundle.SetDateTime(TimeAttribute(element, "dateTime"))) ||
+        Failed(bundle.SetVendorVersion(AttributeOrEmpty(element, "vendorVersion"))) ||
+        Failed(bundle.SetPath(AttributeOrEmpty(element, "path"))) ||
+        Failed(bundle.SetBundleID(AttributeOrEmpty(element, "bundleID")))) {
         return QRM_KIT_FAILURE;
     }
     QRMBundleTypeEnum bundleType = QRM_BUNDLE_BTW32;
-    QRMBundleTypeFromText(AttributeOrEmpty(*node, "bundleType"), bundleType);
+    QRMBundleTypeFromText(AttributeOrEmpty(element, "bundleType"), bundleType);
     bundle.SetBundleType(bundleType);
 
     return mCatalogManifest.AddSoftwareBundle(std::move(entry));
@@ -243,102 +245,102 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
     // Built in place and handed over to the store, never copied.
     std::unique_ptr<QRMSoftwareComponent> entry(new QRMSoftwareComponent);
     QRMSoftwareComponent& component = *entry;
-    QRMKitReturnCode result = ReadNameTypeDescription(*node, component);
+    const Element element(*node);
+    QRMKitReturnCode result = ReadNameTypeDescription(element, component);
     if (result != QRM_KIT_SUCCESS) {
         return result;
     }
 
     // The category text is the first child node of its "Display" (a CDATA
     // or text node's text, an element's name), not the Display's value.
-    VELXMLNode* categoryNode = SingleChild(*node, "Category");
-    if (categoryNode == nullptr) {
+    VELXMLNode categoryNode = SingleChild(element, "Category");
+    if (categoryNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
     QRMCategory category;
-    category.SetCode(AttributeOrEmpty(*categoryNode, "value"));
+    category.SetCode(AttributeOrEmpty(categoryNode, "value"));
     VELString categoryText;
-    if (VELXMLNode* display = SingleChild(*categoryNode, "Display")) {
-        categoryText = display->GetFirstChildNodeName();
-        if (Failed(category.AddDisplayValue(AttributeOrEmpty(*display, "lang"), categoryText))) {
+    if (VELXMLNode display = SingleChild(categoryNode, "Display")) {
+        categoryText = display.GetFirstChildNodeName();
+        if (Failed(category.AddDisplayValue(AttributeOrEmpty(display, "lang"), categoryText))) {
             return QRM_KIT_FAILURE;
         }
     }
-    component.SetCategory(category);
+    VELString categoryCode = category.GetCode();
+    component.SetCategory(std::move(category));
 
-    if (VELXMLNode* luNode = SingleChild(*node, "LUCategory")) {
+    if (VELXMLNode luNode = SingleChild(element, "LUCategory")) {
         QRMLUCategory luCategory;
-        luCategory.SetCode(AttributeOrEmpty(*luNode, "value"));
-        if (Failed(AddOptionalDisplay(*luNode, luCategory))) {
+        luCategory.SetCode(AttributeOrEmpty(luNode, "value"));
+        if (Failed(AddOptionalDisplay(luNode, luCategory))) {
             return QRM_KIT_FAILURE;
         }
-        component.SetLUCategory(luCategory);
+        component.SetLUCategory(std::move(luCategory));
     }
 
-    VELXMLNode* devicesNode = SingleChild(*node, "SupportedDevices");
-    if (devicesNode == nullptr) {
+    VELXMLNode devicesNode = SingleChild(element, "SupportedDevices");
+    if (devicesNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    std::vector<VELXMLNode*> deviceNodes;
-    devicesNode->GetChildren(deviceNodes);
-    for (const VELXMLNode* deviceNode : deviceNodes) {
+    for (VELXMLNode deviceNode = devicesNode.FirstChildElement(); deviceNode;
+         deviceNode = deviceNode.NextSiblingElement()) {
         QRMDevice device;
-        if (Failed(ReadDevice(*deviceNode, device))) {
+        if (Failed(ReadDevice(deviceNode, device))) {
             return QRM_KIT_FAILURE;
         }
-        component.AddDeviceSupport(device);
+        component.AddDeviceSupport(std::move(device));
     }
 
-    if (VELXMLNode* systemsNode = SingleChild(*node, "SupportedSystems")) {
+    if (VELXMLNode systemsNode = SingleChild(element, "SupportedSystems")) {
         QRMSupportedSystems systems;
-        if (Failed(systems.SetDisplay(AttributeNumber(*systemsNode, "display", std::dec) != 0)) ||
-            Failed(ReadBrand(*systemsNode, systems)) ||
-            Failed(component.SetSupportedSystems(systems))) {
+        if (Failed(systems.SetDisplay(AttributeNumber(systemsNode, "display", std::dec) != 0)) ||
+            Failed(ReadBrand(systemsNode, systems)) ||
+            Failed(component.SetSupportedSystems(std::move(systems)))) {
             return QRM_KIT_FAILURE;
         }
     }
 
-    if (VELXMLNode* osesNode = SingleChild(*node, "SupportedOperatingSystems")) {
+    if (VELXMLNode osesNode = SingleChild(element, "SupportedOperatingSystems")) {
         QRMSupportedOperatingSystems oses;
         QRMOSArchitectureEnum architecture = QRM_OS_ARCH_X86;
-        std::vector<VELXMLNode*> osNodes;
-        osesNode->GetChildren(osNodes);
-        for (const VELXMLNode* osNode : osNodes) {
+        for (VELXMLNode osNode = osesNode.FirstChildElement(); osNode;
+             osNode = osNode.NextSiblingElement()) {
             QRMOperatingSystem os;
-            if (Failed(ReadOperatingSystem(*osNode, architecture, os))) {
+            if (Failed(ReadOperatingSystem(osNode, architecture, os))) {
                 return QRM_KIT_FAILURE;
             }
-            oses.AddOS(os);
+            oses.AddOS(std::move(os));
         }
-        component.SetSupportedOperatingSystems(oses);
+        component.SetSupportedOperatingSystems(std::move(oses));
     }
 
-    ReadImportantInfo(*node, component);
+    ReadImportantInfo(element, component);
 
     QRMCriticality criticality;
     criticality.SetValue(QRM_CRITICALITY_UNSPECIFIED);
-    if (VELXMLNode* criticalityNode = SingleChild(*node, "Criticality")) {
+    if (VELXMLNode criticalityNode = SingleChild(element, "Criticality")) {
         QRMCriticalityValueEnum value = QRM_CRITICALITY_UNSPECIFIED;
-        QRMCriticalityFromText(AttributeOrEmpty(*criticalityNode, "value"), value);
+        QRMCriticalityFromText(AttributeOrEmpty(criticalityNode, "value"), value);
         criticality.SetValue(value);
-        if (Failed(AddOptionalDisplay(*criticalityNode, criticality))) {
+        if (Failed(AddOptionalDisplay(criticalityNode, criticality))) {
             return QRM_KIT_FAILURE;
         }
     }
-    component.SetCriticality(criticality);
+    component.SetCriticality(std::move(criticality));
 
-    component.SetSchemaVersion(AttributeOrEmpty(*node, "schemaVersion"));
-    component.SetReleaseID(AttributeOrEmpty(*node, "releaseID"));
-    component.SetDateTime(TimeAttribute(*node, "dateTime"));
-    component.SetVendorVersion(AttributeOrEmpty(*node, "vendorVersion"));
-    component.SetReleaseDate(TimeAttribute(*node, "releaseDate"));
-    component.SetMD5Hash(AttributeOrEmpty(*node, "hashMD5"));
-    component.SetTolvarVersion(AttributeOrEmpty(*node, "tolvarVersion"));
-    component.SetPackageID(AttributeOrEmpty(*node, "packageID"));
-    component.SetPackageType(AttributeOrEmpty(*node, "packageType"));
-    component.SetPath(AttributeOrEmpty(*node, "path"));
+    component.SetSchemaVersion(AttributeOrEmpty(element, "schemaVersion"));
+    component.SetReleaseID(AttributeOrEmpty(element, "releaseID"));
+    component.SetDateTime(TimeAttribute(element, "dateTime"));
+    component.SetVendorVersion(AttributeOrEmpty(element, "vendorVersion"));
+    component.SetReleaseDate(TimeAttribute(element, "releaseDate"));
+    component.SetMD5Hash(AttributeOrEmpty(element, "hashMD5"));
+    component.SetTolvarVersion(AttributeOrEmpty(element, "tolvarVersion"));
+    component.SetPackageID(AttributeOrEmpty(element, "packageID"));
+    component.SetPackageType(AttributeOrEmpty(element, "packageType"));
+    component.SetPath(AttributeOrEmpty(element, "path"));
 
     // The first text recorded for a code stays.
-    mCatalogManifest.AddCategoryValue(category.GetCode(), categoryText);
+    mCatalogManifest.AddCategoryValue(categoryCode, categoryText);
     return mCatalogManifest.AddSoftwareComponent(std::move(entry));
 }
 

@@ -34,7 +34,7 @@ std::u16string AcronymBase(const VELString& code)
 {
     const VELString consonants = ToUpper(code.RemoveVowels());
     std::u16string base;
-    for (char16_t unit : consonants.GetUTF16String()) {
+    for (char16_t unit : consonants.GetUTF16View()) {
         if (IsLetter(unit)) {
             base.push_back(unit);
         }

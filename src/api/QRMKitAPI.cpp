@@ -119,6 +119,10 @@ QRMKitReturnCode QRMKitAPI::Parse(const VELFile& file)
         } else if ("InventoryComponent" == name) {
             ParseInventoryComponent(child);
         }
+        // Read: its memory goes back for the entries still to come, so a
+        // large catalog never needs its whole document and its whole store
+        // at once.
+        child->Discard();
     }
     document.reset();
     return mCatalogManifest.SetParsed();

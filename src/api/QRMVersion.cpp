@@ -12,7 +12,7 @@ namespace {
 // its length in code units, that is, when it is ASCII.
 bool FitsWorkBuffer(const VELString& text)
 {
-    const std::u16string& units = text.GetUTF16String();
+    std::u16string_view units = text.GetUTF16View();
     return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x80; });
 }
 
@@ -23,7 +23,7 @@ bool IsSeparator(char16_t unit) { return unit == u'.' || unit == u'-' || unit ==
 // trailing separators give nothing, and the text ends at its first NUL.
 class FieldCursor {
 public:
-    explicit FieldCursor(const std::u16string& text)
+    explicit FieldCursor(std::u16string_view text)
         : mText(text), mEnd(std::min(text.size(), text.find(u'\0'))), mPos(0), mStart(0), mLength(0)
     {
     }
@@ -48,14 +48,14 @@ public:
     std::size_t Length() const { return mLength; }
 
 private:
-    const std::u16string& mText;
+    std::u16string_view mText;
     std::size_t mEnd;
     std::size_t mPos;
     std::size_t mStart;
     std::size_t mLength;
 };
 
-std::size_t CountFields(const std::u16string& text)
+std::size_t CountFields(std::u16string_view text)
 {
     FieldCursor cursor(text);
     std::size_t count = 0;
@@ -67,8 +67,8 @@ std::size_t CountFields(const std::u16string& text)
 
 // Compares two fields as if the shorter were left-padded with "0" to the
 // length of the longer: 1, 0 or -1.
-int CompareFields(const std::u16string& a, std::size_t aStart, std::size_t aLength,
-                  const std::u16string& b, std::size_t bStart, std::size_t bLength)
+int CompareFields(std::u16string_view a, std::size_t aStart, std::size_t aLength,
+                  std::u16string_view b, std::size_t bStart, std::size_t bLength)
 {
     const std::size_t width = std::max(aLength, bLength);
     const std::size_t aPad = width - aLength;
@@ -90,13 +90,21 @@ int QRMKitAPI::MakeEqualLength(VELString& first, VELString& second) const
     if (!FitsWorkBuffer(first) || !FitsWorkBuffer(second)) {
         return -1;
     }
-    std::size_t firstCount = CountFields(first.GetUTF16String());
-    std::size_t secondCount = CountFields(second.GetUTF16String());
-    for (; firstCount > secondCount; ++secondCount) {
-        second = second + ".0";
-    }
-    for (; secondCount > firstCount; ++firstCount) {
-        first = first + ".0";
+    std::size_t firstCount = CountFields(first.GetUTF16View());
+    std::size_t secondCount = CountFields(second.GetUTF16View());
+    // One ".0" per missing field, appended in one go.
+    auto pad = [](VELString& text, std::size_t fields) {
+        std::u16string padded(text.GetUTF16View());
+        padded.reserve(padded.size() + 2 * fields);
+        for (std::size_t i = 0; i < fields; ++i) {
+            padded.append(u".0");
+        }
+        text = VELString(std::move(padded));
+    };
+    if (firstCount > secondCount) {
+        pad(second, firstCount - secondCount);
+    } else if (secondCount > firstCount) {
+        pad(first, secondCount - firstCount);
     }
     return 0;
 }
@@ -113,8 +121,8 @@ int QRMKitAPI::CompareVersion(const VELString& first, const VELString& second) c
     if (!FitsWorkBuffer(first) || !FitsWorkBuffer(second)) {
         return -2;
     }
-    const std::u16string& a = first.GetUTF16String();
-    const std::u16string& b = second.GetUTF16String();
+    std::u16string_view a = first.GetUTF16View();
+    std::u16string_view b = second.GetUTF16View();
     FieldCursor left(a);
     FieldCursor right(b);
     for (;;) {

@@ -1,5 +1,9 @@
 #include "api/QRMXMLRead.h"
 
+#include "base/VELNumber.h"
+
+#include <cstring>
+
 namespace qrm {
 
 QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocument>& document,
@@ -19,24 +23,96 @@ QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocumen
     return root != nullptr ? QRM_KIT_SUCCESS : QRM_KIT_FAILURE;
 }
 
-VELXMLNode* SingleChild(const VELXMLNode& node, const char* name)
+namespace {
+
+bool SameName(const char* stored, const char* name)
 {
-    std::vector<VELXMLNode*> children;
-    node.GetChildren(name, children);
-    return children.size() == 1 ? children.front() : nullptr;
+    return stored[0] == name[0] && std::strcmp(stored, name) == 0;
 }
+
+VELString TextOrEmpty(const char* text)
+{
+    return text != nullptr ? VELString::FromUTF8(text, std::strlen(text)) : VELString();
+}
+
+// Read straight from the document's bytes: the number is the same as that
+// of the converted text, without building the text.
+unsigned int NumberOf(const char* text, std::ios_base& (*base)(std::ios_base&))
+{
+    if (text == nullptr) {
+        text = "";
+    }
+    if (base == static_cast<std::ios_base& (*)(std::ios_base&)>(std::hex)) {
+        return vel::ReadUnsigned(text, std::strlen(text), 16);
+    }
+    if (base == static_cast<std::ios_base& (*)(std::ios_base&)>(std::dec)) {
+        return vel::ReadUnsigned(text, std::strlen(text), 10);
+    }
+    return TextOrEmpty(text).GetIntValue(base);
+}
+
+}  // namespace
+
+Element::Element(const VELXMLNode& node) : mNode(node)
+{
+    mAttributeCount = node.GetAttributeTexts(mAttributeNames, mAttributeTexts, kCapacity);
+    mChildCount = node.GetChildElements(mChildNames, mChildren, kCapacity);
+}
+
+const char* Element::Text(const char* name) const
+{
+    if (mAttributeCount > kCapacity) {
+        return mNode.GetAttributeText(name);
+    }
+    for (std::size_t i = 0; i < mAttributeCount; ++i) {
+        if (SameName(mAttributeNames[i], name)) {
+            return mAttributeTexts[i];
+        }
+    }
+    return nullptr;
+}
+
+VELXMLNode Element::OnlyChild(const char* name) const
+{
+    if (mChildCount > kCapacity) {
+        return mNode.GetOnlyChild(name);
+    }
+    VELXMLNode found;
+    for (std::size_t i = 0; i < mChildCount; ++i) {
+        if (SameName(mChildNames[i], name)) {
+            if (found) {
+                return VELXMLNode();
+            }
+            found = mChildren[i];
+        }
+    }
+    return found;
+}
+
+VELXMLNode SingleChild(const VELXMLNode& node, const char* name) { return node.GetOnlyChild(name); }
+
+VELXMLNode SingleChild(const Element& element, const char* name) { return element.OnlyChild(name); }
 
 VELString AttributeOrEmpty(const VELXMLNode& node, const char* name)
 {
-    VELString value;
-    node.GetAttributeValue(name, value);
-    return value;
+    return TextOrEmpty(node.GetAttributeText(name));
+}
+
+VELString AttributeOrEmpty(const Element& element, const char* name)
+{
+    return TextOrEmpty(element.Text(name));
 }
 
 unsigned int AttributeNumber(const VELXMLNode& node, const char* name,
                              std::ios_base& (*base)(std::ios_base&))
 {
-    return AttributeOrEmpty(node, name).GetIntValue(base);
+    return NumberOf(node.GetAttributeText(name), base);
+}
+
+unsigned int AttributeNumber(const Element& element, const char* name,
+                             std::ios_base& (*base)(std::ios_base&))
+{
+    return NumberOf(element.Text(name), base);
 }
 
 }  // namespace qrm

@@ -1,20 +1,33 @@
 #include "VELString.h"
 
 #include "base/VELCombinations.h"
+#include "base/VELNumber.h"
 
 #include <utf8.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <iterator>
 #include <sstream>
+#include <stdexcept>
+#include <string_view>
 #include <utility>
 
 namespace {
 
+// True when no byte is outside ASCII; eight bytes at a time.
 bool IsASCII(const char* bytes, std::size_t length)
 {
-    for (std::size_t i = 0; i < length; ++i) {
+    std::size_t i = 0;
+    for (; i + 8 <= length; i += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, bytes + i, sizeof word);
+        if ((word & 0x8080808080808080ull) != 0) {
+            return false;
+        }
+    }
+    for (; i < length; ++i) {
         if (static_cast<unsigned char>(bytes[i]) >= 0x80) {
             return false;
         }
@@ -42,7 +55,7 @@ std::u16string DecodeUTF8(const char* bytes, std::size_t length)
 bool IsHighSurrogate(char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
-std::string EncodeUTF8(const std::u16string& units)
+std::string EncodeUTF8(std::u16string_view units)
 {
     bool ascii = true;
     for (char16_t unit : units) {
@@ -74,141 +87,103 @@ std::string EncodeUTF8(const std::u16string& units)
     return bytes;
 }
 
-bool IsStreamSpace(char16_t unit)
-{
-    return unit == u' ' || unit == u'\t' || unit == u'\n' || unit == u'\v' || unit == u'\f' ||
-           unit == u'\r';
-}
-
-int DigitValue(char16_t unit, unsigned int base)
-{
-    if (unit >= u'0' && unit <= u'9') {
-        int digit = unit - u'0';
-        return digit < static_cast<int>(base) ? digit : -1;
-    }
-    if (base == 16) {
-        if (unit >= u'a' && unit <= u'f') {
-            return 10 + (unit - u'a');
-        }
-        if (unit >= u'A' && unit <= u'F') {
-            return 10 + (unit - u'A');
-        }
-    }
-    return -1;
-}
-
-// The number extraction of the standard stream (classic locale) for an
-// unsigned int in base 10 or 16, without building a stream.
-unsigned int ExtractUnsigned(const std::u16string& text, unsigned int base)
-{
-    std::size_t pos = 0;
-    const std::size_t end = text.size();
-    while (pos < end && IsStreamSpace(text[pos])) {
-        ++pos;
-    }
-    if (pos == end) {
-        return 0;
-    }
-    bool negative = false;
-    if (text[pos] == u'-' || text[pos] == u'+') {
-        negative = text[pos] == u'-';
-        ++pos;
-    }
-    bool foundZero = false;
-    unsigned int digitsSeen = 0;
-    while (pos < end) {
-        char16_t c = text[pos];
-        if (c == u'0' && (!foundZero || base == 10)) {
-            foundZero = true;
-            ++digitsSeen;
-        } else if (foundZero && (c == u'x' || c == u'X')) {
-            if (base != 16) {
-                break;
-            }
-            foundZero = false;
-            digitsSeen = 0;
-        } else {
-            break;
-        }
-        ++pos;
-        if (pos < end && !foundZero) {
-            break;
-        }
-    }
-    const unsigned int max = 0xFFFFFFFFu;
-    const unsigned int smax = max / base;
-    unsigned int result = 0;
-    bool overflow = false;
-    for (; pos < end; ++pos) {
-        int digit = DigitValue(text[pos], base);
-        if (digit < 0) {
-            break;
-        }
-        if (result > smax) {
-            overflow = true;
-        } else {
-            result *= base;
-            overflow |= result > max - static_cast<unsigned int>(digit);
-            result += static_cast<unsigned int>(digit);
-            ++digitsSeen;
-        }
-    }
-    if (digitsSeen == 0 && !foundZero) {
-        return 0;
-    }
-    if (overflow) {
-        return max;
-    }
-    return negative ? 0u - result : result;
-}
-
 }  // namespace
 
-VELString::VELString() = default;
+static_assert(sizeof(char16_t*) == 8 || sizeof(char16_t*) == 4, "unusual pointer size");
 
-VELString::VELString(const char* text, VELCharEncodingType /*encoding*/)
-    : mUnits(text != nullptr ? DecodeUTF8(text, std::strlen(text)) : std::u16string())
+VELString::VELString(const char* text, VELCharEncodingType /*encoding*/) : VELString()
 {
+    if (text != nullptr) {
+        *this = FromUTF8(text, std::strlen(text));
+    }
 }
 
-VELString::VELString(const std::u16string& units) : mUnits(units) {}
+VELString::VELString(const std::u16string& units) : VELString() { Assign(units.data(), units.size()); }
 
-VELString::VELString(std::u16string&& units) : mUnits(std::move(units)) {}
+VELString::VELString(std::u16string&& units) : VELString() { Assign(units.data(), units.size()); }
 
-VELString::VELString(const VELString& other) = default;
+VELString::VELString(const VELString& other) : VELString() { Assign(other.Data(), other.Size()); }
 
-VELString::VELString(VELString&& other) noexcept : mUnits(std::move(other.mUnits)) {}
 
-VELString& VELString::operator=(const VELString& other) = default;
-
-VELString& VELString::operator=(VELString&& other) noexcept
+VELString& VELString::operator=(const VELString& other)
 {
-    mUnits = std::move(other.mUnits);
+    if (this != &other) {
+        Assign(other.Data(), other.Size());
+    }
     return *this;
 }
 
-VELString::~VELString() = default;
+VELString::~VELString()
+{
+    if (!IsInline()) {
+        ReleaseHeap();
+    }
+}
+
+void VELString::ReleaseHeap() { delete[] HeapUnits(); }
+
+char16_t* VELString::Reset(std::size_t length)
+{
+    Release();
+    if (length <= kInline) {
+        mSlots[kInline] = static_cast<char16_t>(kInlineTag | length);
+        return mSlots;
+    }
+    if (length > 0xFFFFFFFFu) {
+        throw std::length_error("VELString: text too long");
+    }
+    char16_t* units = new char16_t[length];
+    std::uint32_t size = static_cast<std::uint32_t>(length);
+    std::memset(mSlots, 0, sizeof mSlots);
+    std::memcpy(mSlots, &units, sizeof units);
+    std::memcpy(reinterpret_cast<unsigned char*>(mSlots) + sizeof(char16_t*), &size, sizeof size);
+    return units;
+}
+
+void VELString::Assign(const char16_t* units, std::size_t length)
+{
+    // Built aside first: `units` may lie inside this very text.
+    VELString fresh;
+    if (length > 0) {
+        std::copy(units, units + length, fresh.Reset(length));
+    }
+    Release();
+    TakeFrom(fresh);
+}
 
 VELString VELString::FromUTF8(const char* bytes, std::size_t length)
 {
-    return VELString(DecodeUTF8(bytes, bytes != nullptr ? length : 0));
+    VELString text;
+    if (bytes == nullptr || length == 0) {
+        return text;
+    }
+    if (IsASCII(bytes, length)) {
+        char16_t* units = text.Reset(length);
+        for (std::size_t i = 0; i < length; ++i) {
+            units[i] = static_cast<unsigned char>(bytes[i]);
+        }
+        return text;
+    }
+    std::u16string units = DecodeUTF8(bytes, length);
+    text.Assign(units.data(), units.size());
+    return text;
 }
 
-unsigned int VELString::GetLength() const { return static_cast<unsigned int>(mUnits.size()); }
+unsigned int VELString::GetLength() const { return static_cast<unsigned int>(Size()); }
 
-bool VELString::IsEmpty() const { return mUnits.empty(); }
+bool VELString::IsEmpty() const { return Size() == 0; }
 
-std::string VELString::GetUTF8String() const { return EncodeUTF8(mUnits); }
+std::string VELString::GetUTF8String() const { return EncodeUTF8(GetUTF16View()); }
 
-const std::u16string& VELString::GetUTF16String() const { return mUnits; }
+std::u16string VELString::GetUTF16String() const { return std::u16string(GetUTF16View()); }
 
 unsigned int VELString::GetIntValue(NumberBase base) const
 {
     if (base == static_cast<NumberBase>(std::dec)) {
-        return ExtractUnsigned(mUnits, 10);
+        return vel::ReadUnsigned(Data(), Size(), 10);
     }
     if (base == static_cast<NumberBase>(std::hex)) {
-        return ExtractUnsigned(mUnits, 16);
+        return vel::ReadUnsigned(Data(), Size(), 16);
     }
     // Any other manipulator: ask the stream itself.
     std::istringstream stream(GetUTF8String());
@@ -222,42 +197,48 @@ unsigned int VELString::GetIntValue(NumberBase base) const
 
 VELString VELString::SubString(unsigned int start, unsigned int count) const
 {
-    if (start >= mUnits.size()) {
+    std::u16string_view units = GetUTF16View();
+    if (start >= units.size()) {
         return VELString();
     }
-    return VELString(mUnits.substr(start, count));
+    std::u16string_view part = units.substr(start, count);
+    VELString text;
+    text.Assign(part.data(), part.size());
+    return text;
 }
 
 VELString& VELString::ReplaceAll(const VELString& what, const VELString& with)
 {
-    const std::u16string& pattern = what.mUnits;
-    if (pattern.empty() || mUnits.size() < pattern.size()) {
+    std::u16string_view units = GetUTF16View();
+    std::u16string_view pattern = what.GetUTF16View();
+    if (pattern.empty() || units.size() < pattern.size()) {
         return *this;
     }
-    std::size_t pos = mUnits.find(pattern);
+    std::size_t pos = units.find(pattern);
     if (pos == std::u16string::npos) {
         return *this;
     }
     std::u16string result;
-    result.reserve(mUnits.size());
+    result.reserve(units.size());
     std::size_t from = 0;
     while (pos != std::u16string::npos) {
-        result.append(mUnits, from, pos - from);
-        result.append(with.mUnits);
+        result.append(units.substr(from, pos - from));
+        result.append(with.GetUTF16View());
         from = pos + pattern.size();
-        pos = mUnits.find(pattern, from);
+        pos = units.find(pattern, from);
     }
-    result.append(mUnits, from, std::u16string::npos);
-    mUnits = std::move(result);
+    result.append(units.substr(from));
+    Assign(result.data(), result.size());
     return *this;
 }
 
 bool VELString::ContainsOnlyAlphabets() const
 {
-    if (mUnits.empty()) {
+    std::u16string_view units = GetUTF16View();
+    if (units.empty()) {
         return false;
     }
-    return std::all_of(mUnits.begin(), mUnits.end(), [](char16_t unit) {
+    return std::all_of(units.begin(), units.end(), [](char16_t unit) {
         return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
     });
 }
@@ -265,8 +246,9 @@ bool VELString::ContainsOnlyAlphabets() const
 VELString VELString::RemoveVowels() const
 {
     std::u16string kept;
-    kept.reserve(mUnits.size());
-    for (char16_t unit : mUnits) {
+    std::u16string_view units = GetUTF16View();
+    kept.reserve(units.size());
+    for (char16_t unit : units) {
         switch (unit) {
         case u'A': case u'E': case u'I': case u'O': case u'U':
         case u'a': case u'e': case u'i': case u'o': case u'u':
@@ -299,13 +281,14 @@ void VELString::ListCombinationsOfString(char* buffer, unsigned int start, unsig
         out.emplace_back(chosen);
         return;
     }
-    if (mUnits.empty() || start >= mUnits.size()) {
+    std::u16string_view units = GetUTF16View();
+    if (units.empty() || start >= units.size()) {
         return;
     }
-    vel::CombinationCursor cursor(start, std::min<std::size_t>(end, mUnits.size() - 1), count);
+    vel::CombinationCursor cursor(start, std::min<std::size_t>(end, units.size() - 1), count);
     while (cursor.Next()) {
         for (std::size_t i = 0; i < count; ++i) {
-            char16_t unit = mUnits[cursor.Positions()[i]];
+            char16_t unit = units[cursor.Positions()[i]];
             chosen[index + i] = unit;
             if (buffer != nullptr) {
                 buffer[index + i] = unit < 0x80 ? static_cast<char>(unit) : '?';
@@ -317,7 +300,7 @@ void VELString::ListCombinationsOfString(char* buffer, unsigned int start, unsig
 
 bool operator==(const VELString& left, const VELString& right)
 {
-    return left.GetUTF16String() == right.GetUTF16String();
+    return left.GetUTF16View() == right.GetUTF16View();
 }
 
 bool operator!=(const VELString& left, const VELString& right) { return !(left == right); }
@@ -325,7 +308,7 @@ bool operator!=(const VELString& left, const VELString& right) { return !(left =
 bool operator<(const VELString& left, const VELString& right)
 {
     // char16_t is unsigned, so this is the code-unit order.
-    return left.GetUTF16String() < right.GetUTF16String();
+    return left.GetUTF16View() < right.GetUTF16View();
 }
 
 namespace {
@@ -335,7 +318,7 @@ bool EqualsLiteral(const char* literal, const VELString& text)
     if (literal == nullptr) {
         return text.IsEmpty();
     }
-    const std::u16string& units = text.GetUTF16String();
+    std::u16string_view units = text.GetUTF16View();
     std::size_t i = 0;
     for (; literal[i] != '\0'; ++i) {
         unsigned char byte = static_cast<unsigned char>(literal[i]);
@@ -356,17 +339,13 @@ bool operator==(const VELString& left, const char* right) { return EqualsLiteral
 bool operator!=(const char* left, const VELString& right) { return !EqualsLiteral(left, right); }
 bool operator!=(const VELString& left, const char* right) { return !EqualsLiteral(right, left); }
 
-VELString operator+(const VELString& left, const char* right)
-{
-    return VELString(left.GetUTF16String() + VELString(right).GetUTF16String());
-}
+VELString operator+(const VELString& left, const char* right) { return left + VELString(right); }
 
-VELString operator+(const char* left, const VELString& right)
-{
-    return VELString(VELString(left).GetUTF16String() + right.GetUTF16String());
-}
+VELString operator+(const char* left, const VELString& right) { return VELString(left) + right; }
 
 VELString operator+(const VELString& left, const VELString& right)
 {
-    return VELString(left.GetUTF16String() + right.GetUTF16String());
+    std::u16string joined(left.GetUTF16View());
+    joined.append(right.GetUTF16View());
+    return VELString(std::move(joined));
 }

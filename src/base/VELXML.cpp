@@ -58,15 +58,52 @@ VELErrorCodeEnum VELXMLNode::GetAttributeValue(const VELString& name, VELString&
 
 VELErrorCodeEnum VELXMLNode::GetAttributeValue(const char* name, VELString& value) const
 {
-    if (mNode == nullptr || name == nullptr) {
+    const char* text = GetAttributeText(name);
+    if (text == nullptr) {
         return VEL_FAILURE;
+    }
+    value = FromPugi(text);
+    return VEL_SUCCESS;
+}
+
+const char* VELXMLNode::GetAttributeText(const char* name) const
+{
+    if (mNode == nullptr || name == nullptr) {
+        return nullptr;
     }
     pugi::xml_attribute attribute = Node(mNode).attribute(name);
-    if (!attribute) {
-        return VEL_FAILURE;
+    return attribute ? attribute.value() : nullptr;
+}
+
+std::size_t VELXMLNode::GetAttributeTexts(const char** names, const char** texts,
+                                          std::size_t capacity) const
+{
+    std::size_t count = 0;
+    for (pugi::xml_attribute attribute = Node(mNode).first_attribute(); attribute;
+         attribute = attribute.next_attribute(), ++count) {
+        if (count < capacity) {
+            names[count] = attribute.name();
+            texts[count] = attribute.value();
+        }
     }
-    value = FromPugi(attribute.value());
-    return VEL_SUCCESS;
+    return count;
+}
+
+std::size_t VELXMLNode::GetChildElements(const char** names, VELXMLNode* children,
+                                         std::size_t capacity) const
+{
+    std::size_t count = 0;
+    for (pugi::xml_node child = Node(mNode).first_child(); child; child = child.next_sibling()) {
+        if (child.type() != pugi::node_element) {
+            continue;
+        }
+        if (count < capacity) {
+            names[count] = child.name();
+            children[count] = VELXMLNode(child.internal_object(), mDocument);
+        }
+        ++count;
+    }
+    return count;
 }
 
 VELErrorCodeEnum VELXMLNode::GetChildren(std::vector<VELXMLNode*>& children) const
@@ -97,6 +134,100 @@ VELErrorCodeEnum VELXMLNode::GetChildren(const char* name, std::vector<VELXMLNod
         children.push_back(mDocument->Wrap(child.internal_object()));
     }
     return VEL_SUCCESS;
+}
+
+namespace {
+
+// The first element among `node` and its following siblings.
+pugi::xml_node ElementFrom(pugi::xml_node node)
+{
+    while (node && node.type() != pugi::node_element) {
+        node = node.next_sibling();
+    }
+    return node;
+}
+
+}  // namespace
+
+VELXMLNode VELXMLNode::FirstChildElement() const
+{
+    return VELXMLNode(ElementFrom(Node(mNode).first_child()).internal_object(), mDocument);
+}
+
+// Only elements carry names in the documents the parser builds, so the
+// parser's own named lookups find elements.
+VELXMLNode VELXMLNode::FirstChildElement(const char* name) const
+{
+    if (name == nullptr) {
+        return VELXMLNode(nullptr, mDocument);
+    }
+    return VELXMLNode(Node(mNode).child(name).internal_object(), mDocument);
+}
+
+VELXMLNode VELXMLNode::NextSiblingElement() const
+{
+    return VELXMLNode(ElementFrom(Node(mNode).next_sibling()).internal_object(), mDocument);
+}
+
+VELXMLNode VELXMLNode::NextSiblingElement(const char* name) const
+{
+    if (name == nullptr) {
+        return VELXMLNode(nullptr, mDocument);
+    }
+    return VELXMLNode(Node(mNode).next_sibling(name).internal_object(), mDocument);
+}
+
+VELXMLNode VELXMLNode::GetOnlyChild(const char* name) const
+{
+    VELXMLNode first = FirstChildElement(name);
+    if (first.IsNull() || !first.NextSiblingElement(name).IsNull()) {
+        return VELXMLNode(nullptr, mDocument);
+    }
+    return first;
+}
+
+void VELXMLNode::Discard()
+{
+    pugi::xml_node top = Node(mNode);
+    pugi::xml_node parent = top.parent();
+    if (!top || !parent || parent.type() == pugi::node_document) {
+        return;
+    }
+    // The parser frees a subtree recursively. A hostile document may nest
+    // elements very deeply, so a deep subtree is taken apart from its
+    // leaves upwards instead, one node at a time.
+    const int shallow = 64;
+    bool deep = false;
+    int depth = 0;
+    for (pugi::xml_node node = top.first_child(); node && !deep;) {
+        if (node.first_child()) {
+            node = node.first_child();
+            deep = ++depth >= shallow;
+            continue;
+        }
+        while (node != top && !node.next_sibling()) {
+            node = node.parent();
+            --depth;
+        }
+        node = node == top ? pugi::xml_node() : node.next_sibling();
+    }
+    if (deep) {
+        pugi::xml_node node = top;
+        for (;;) {
+            if (pugi::xml_node last = node.last_child()) {
+                node = last;
+                continue;
+            }
+            if (node == top) {
+                break;
+            }
+            pugi::xml_node up = node.parent();
+            up.remove_child(node);
+            node = up;
+        }
+    }
+    parent.remove_child(top);
+    mNode = nullptr;
 }
 
 VELXMLDocument::VELXMLDocument() : mImpl(new Impl) {}

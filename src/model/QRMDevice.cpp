@@ -5,6 +5,8 @@
 QRMDevice::QRMDevice() : mComponentID(0), mEmbedded(false) {}
 QRMDevice::QRMDevice(const QRMDevice& other) = default;
 QRMDevice& QRMDevice::operator=(const QRMDevice& other) = default;
+QRMDevice::QRMDevice(QRMDevice&& other) = default;
+QRMDevice& QRMDevice::operator=(QRMDevice&& other) = default;
 QRMDevice::~QRMDevice() = default;
 
 unsigned long long QRMDevice::GetComponentID() const { return mComponentID; }
@@ -33,9 +35,9 @@ void QRMDevice::GetApplicability(std::vector<QRMDeviceApplicability>& out) const
     mApplicability.AppendCopiesTo(out);
 }
 
-QRMKitReturnCode QRMDevice::AddPCIInfo(const QRMPCIInfo& pciInfo) { return mPCIInfo.AddUnique(pciInfo); }
+QRMKitReturnCode QRMDevice::AddPCIInfo(QRMPCIInfo pciInfo) { return mPCIInfo.AddUnique(std::move(pciInfo)); }
 QRMKitReturnCode QRMDevice::RemovePCIInfo(const QRMPCIInfo& pciInfo) { return mPCIInfo.RemoveClosingUpEqual(pciInfo); }
-QRMKitReturnCode QRMDevice::AddPnPInfo(const QRMPnPInfo& pnpInfo) { return mPnPInfo.AddUnique(pnpInfo); }
+QRMKitReturnCode QRMDevice::AddPnPInfo(QRMPnPInfo pnpInfo) { return mPnPInfo.AddUnique(std::move(pnpInfo)); }
 QRMKitReturnCode QRMDevice::RemovePnPInfo(const QRMPnPInfo& pnpInfo) { return mPnPInfo.RemoveClosingUpEqual(pnpInfo); }
 QRMKitReturnCode QRMDevice::AddSubComponent(QRMSubComponent& subComponent)
 {

@@ -13,6 +13,8 @@
 QRMPCIInfo::QRMPCIInfo() : mDeviceID(0), mVendorID(0), mSubDeviceID(0), mSubVendorID(0) {}
 QRMPCIInfo::QRMPCIInfo(const QRMPCIInfo& other) = default;
 QRMPCIInfo& QRMPCIInfo::operator=(const QRMPCIInfo& other) = default;
+QRMPCIInfo::QRMPCIInfo(QRMPCIInfo&& other) = default;
+QRMPCIInfo& QRMPCIInfo::operator=(QRMPCIInfo&& other) = default;
 QRMPCIInfo::~QRMPCIInfo() = default;
 
 unsigned int QRMPCIInfo::GetDeviceID() const { return mDeviceID; }
@@ -109,6 +111,8 @@ bool QRMPnPInfo::operator!=(const QRMPnPInfo& other) const { return !(*this == o
 QRMRollbackInformation::QRMRollbackInformation() : mSequence(0), mFlags(0) {}
 QRMRollbackInformation::QRMRollbackInformation(const QRMRollbackInformation& other) = default;
 QRMRollbackInformation& QRMRollbackInformation::operator=(const QRMRollbackInformation& other) = default;
+QRMRollbackInformation::QRMRollbackInformation(QRMRollbackInformation&& other) = default;
+QRMRollbackInformation& QRMRollbackInformation::operator=(QRMRollbackInformation&& other) = default;
 QRMRollbackInformation::~QRMRollbackInformation() = default;
 
 VELGUID QRMRollbackInformation::GetRollbackIdentifier() const { return mRollbackIdentifier; }
@@ -117,9 +121,9 @@ QRMKitReturnCode QRMRollbackInformation::SetRollbackIdentifier(const VELGUID& id
     return qrm::Store(mRollbackIdentifier, identifier);
 }
 VELString QRMRollbackInformation::GetRollbackVersion() const { return mRollbackVersion; }
-QRMKitReturnCode QRMRollbackInformation::SetRollbackVersion(const VELString& version)
+QRMKitReturnCode QRMRollbackInformation::SetRollbackVersion(VELString version)
 {
-    return qrm::Store(mRollbackVersion, version);
+    return qrm::Store(mRollbackVersion, std::move(version));
 }
 VELGUID QRMRollbackInformation::GetPackageIdentifier() const { return mPackageIdentifier; }
 QRMKitReturnCode QRMRollbackInformation::SetPackageIdentifier(const VELGUID& identifier)
@@ -127,9 +131,9 @@ QRMKitReturnCode QRMRollbackInformation::SetPackageIdentifier(const VELGUID& ide
     return qrm::Store(mPackageIdentifier, identifier);
 }
 VELString QRMRollbackInformation::GetPackagePath() const { return mPackagePath; }
-QRMKitReturnCode QRMRollbackInformation::SetPackagePath(const VELString& path)
+QRMKitReturnCode QRMRollbackInformation::SetPackagePath(VELString path)
 {
-    return qrm::Store(mPackagePath, path);
+    return qrm::Store(mPackagePath, std::move(path));
 }
 VELGUID QRMRollbackInformation::GetSessionIdentifier() const { return mSessionIdentifier; }
 QRMKitReturnCode QRMRollbackInformation::SetSessionIdentifier(const VELGUID& identifier)
@@ -144,7 +148,7 @@ QRMKitReturnCode QRMRollbackInformation::SetSequence(unsigned short sequence)
 unsigned char QRMRollbackInformation::GetFlags() const { return mFlags; }
 QRMKitReturnCode QRMRollbackInformation::SetFlags(unsigned char flags) { return qrm::Store(mFlags, flags); }
 VELString QRMRollbackInformation::GetNote() const { return mNote; }
-QRMKitReturnCode QRMRollbackInformation::SetNote(const VELString& note) { return qrm::Store(mNote, note); }
+QRMKitReturnCode QRMRollbackInformation::SetNote(VELString note) { return qrm::Store(mNote, std::move(note)); }
 
 bool QRMRollbackInformation::operator==(const QRMRollbackInformation& other) const
 {
@@ -165,29 +169,31 @@ bool QRMRollbackInformation::operator!=(const QRMRollbackInformation& other) con
 QRMDependency::QRMDependency() : mType(0), mSize(0), mFlags(0) {}
 QRMDependency::QRMDependency(const QRMDependency& other) = default;
 QRMDependency& QRMDependency::operator=(const QRMDependency& other) = default;
+QRMDependency::QRMDependency(QRMDependency&& other) = default;
+QRMDependency& QRMDependency::operator=(QRMDependency&& other) = default;
 QRMDependency::~QRMDependency() = default;
 
 unsigned int QRMDependency::GetType() const { return mType; }
 QRMKitReturnCode QRMDependency::SetType(unsigned int type) { return qrm::Store(mType, type); }
 VELString QRMDependency::GetName() const { return mName; }
-QRMKitReturnCode QRMDependency::SetName(const VELString& name) { return qrm::Store(mName, name); }
+QRMKitReturnCode QRMDependency::SetName(VELString name) { return qrm::Store(mName, std::move(name)); }
 VELString QRMDependency::GetVersion() const { return mVersion; }
-QRMKitReturnCode QRMDependency::SetVersion(const VELString& version) { return qrm::Store(mVersion, version); }
+QRMKitReturnCode QRMDependency::SetVersion(VELString version) { return qrm::Store(mVersion, std::move(version)); }
 VELGUID QRMDependency::GetIdentifier() const { return mIdentifier; }
 QRMKitReturnCode QRMDependency::SetIdentifier(const VELGUID& identifier)
 {
     return qrm::Store(mIdentifier, identifier);
 }
 VELString QRMDependency::GetPath() const { return mPath; }
-QRMKitReturnCode QRMDependency::SetPath(const VELString& path) { return qrm::Store(mPath, path); }
+QRMKitReturnCode QRMDependency::SetPath(VELString path) { return qrm::Store(mPath, std::move(path)); }
 unsigned long long QRMDependency::GetSize() const { return mSize; }
 QRMKitReturnCode QRMDependency::SetSize(unsigned long long size) { return qrm::Store(mSize, size); }
 unsigned int QRMDependency::GetFlags() const { return mFlags; }
 QRMKitReturnCode QRMDependency::SetFlags(unsigned int flags) { return qrm::Store(mFlags, flags); }
 
-QRMKitReturnCode QRMDependency::AddPCIInfo(const QRMPCIInfo& pciInfo) { return mPCIInfo.AddUnique(pciInfo); }
+QRMKitReturnCode QRMDependency::AddPCIInfo(QRMPCIInfo pciInfo) { return mPCIInfo.AddUnique(std::move(pciInfo)); }
 void QRMDependency::GetPCIInfo(std::vector<QRMPCIInfo>& out) const { mPCIInfo.AppendCopiesTo(out); }
-QRMKitReturnCode QRMDependency::AddPnPInfo(const QRMPnPInfo& pnpInfo) { return mPnPInfo.AddUnique(pnpInfo); }
+QRMKitReturnCode QRMDependency::AddPnPInfo(QRMPnPInfo pnpInfo) { return mPnPInfo.AddUnique(std::move(pnpInfo)); }
 void QRMDependency::GetPnPInfo(std::vector<QRMPnPInfo>& out) const { mPnPInfo.AppendCopiesTo(out); }
 
 bool QRMDependency::operator==(const QRMDependency& other) const
@@ -205,11 +211,13 @@ bool QRMDependency::operator!=(const QRMDependency& other) const { return !(*thi
 QRMSoftDependency::QRMSoftDependency() = default;
 QRMSoftDependency::QRMSoftDependency(const QRMSoftDependency& other) = default;
 QRMSoftDependency& QRMSoftDependency::operator=(const QRMSoftDependency& other) = default;
+QRMSoftDependency::QRMSoftDependency(QRMSoftDependency&& other) = default;
+QRMSoftDependency& QRMSoftDependency::operator=(QRMSoftDependency&& other) = default;
 QRMSoftDependency::~QRMSoftDependency() = default;
 
-QRMKitReturnCode QRMSoftDependency::AddApplicability(const QRMDeviceApplicability& applicability)
+QRMKitReturnCode QRMSoftDependency::AddApplicability(QRMDeviceApplicability applicability)
 {
-    return mApplicability.AddUnique(applicability);
+    return mApplicability.AddUnique(std::move(applicability));
 }
 
 void QRMSoftDependency::GetApplicability(std::vector<QRMDeviceApplicability>& out) const

@@ -24,9 +24,11 @@ bool AgreeFromLeft(const QRMOwnedList<QRMDisplay>& left, const QRMOwnedList<QRMD
 QRMDisplayList::QRMDisplayList() = default;
 QRMDisplayList::QRMDisplayList(const QRMDisplayList& other) = default;
 QRMDisplayList& QRMDisplayList::operator=(const QRMDisplayList& other) = default;
+QRMDisplayList::QRMDisplayList(QRMDisplayList&& other) = default;
+QRMDisplayList& QRMDisplayList::operator=(QRMDisplayList&& other) = default;
 QRMDisplayList::~QRMDisplayList() = default;
 
-QRMKitReturnCode QRMDisplayList::AddDisplayValue(const VELString& language, const VELString& value)
+QRMKitReturnCode QRMDisplayList::AddDisplayValue(VELString language, VELString value)
 {
     auto sameLanguage = [&language](const QRMDisplay& entry) {
         return entry.GetLanguage() == language;
@@ -34,7 +36,7 @@ QRMKitReturnCode QRMDisplayList::AddDisplayValue(const VELString& language, cons
     if (mDisplayValues.IndexOf(sameLanguage) < mDisplayValues.Size()) {
         return QRM_KIT_ALREADY_EXISTS;
     }
-    mDisplayValues.Append(std::unique_ptr<QRMDisplay>(new QRMDisplay(language, value)));
+    mDisplayValues.Append(std::unique_ptr<QRMDisplay>(new QRMDisplay(std::move(language), std::move(value))));
     return QRM_KIT_SUCCESS;
 }
 

@@ -3,18 +3,20 @@
 QRMInventoryComponent::QRMInventoryComponent() : mSize(0) {}
 QRMInventoryComponent::QRMInventoryComponent(const QRMInventoryComponent& other) = default;
 QRMInventoryComponent& QRMInventoryComponent::operator=(const QRMInventoryComponent& other) = default;
+QRMInventoryComponent::QRMInventoryComponent(QRMInventoryComponent&& other) = default;
+QRMInventoryComponent& QRMInventoryComponent::operator=(QRMInventoryComponent&& other) = default;
 QRMInventoryComponent::~QRMInventoryComponent() = default;
 
 VELString QRMInventoryComponent::GetSchemaVersion() const { return mSchemaVersion; }
-QRMKitReturnCode QRMInventoryComponent::SetSchemaVersion(const VELString& value)
+QRMKitReturnCode QRMInventoryComponent::SetSchemaVersion(VELString value)
 {
-    mSchemaVersion = value;
+    mSchemaVersion = std::move(value);
     return QRM_KIT_SUCCESS;
 }
 VELString QRMInventoryComponent::GetReleaseID() const { return mReleaseID; }
-QRMKitReturnCode QRMInventoryComponent::SetReleaseID(const VELString& value)
+QRMKitReturnCode QRMInventoryComponent::SetReleaseID(VELString value)
 {
-    mReleaseID = value;
+    mReleaseID = std::move(value);
     return QRM_KIT_SUCCESS;
 }
 VELTime QRMInventoryComponent::GetReleaseDate() const { return mReleaseDate; }
@@ -24,33 +26,33 @@ QRMKitReturnCode QRMInventoryComponent::SetReleaseDate(const VELTime& value)
     return QRM_KIT_SUCCESS;
 }
 VELString QRMInventoryComponent::GetVendorVersion() const { return mVendorVersion; }
-QRMKitReturnCode QRMInventoryComponent::SetVendorVersion(const VELString& value)
+QRMKitReturnCode QRMInventoryComponent::SetVendorVersion(VELString value)
 {
-    mVendorVersion = value;
+    mVendorVersion = std::move(value);
     return QRM_KIT_SUCCESS;
 }
 VELString QRMInventoryComponent::GetTolvarVersion() const { return mTolvarVersion; }
-QRMKitReturnCode QRMInventoryComponent::SetTolvarVersion(const VELString& value)
+QRMKitReturnCode QRMInventoryComponent::SetTolvarVersion(VELString value)
 {
-    mTolvarVersion = value;
+    mTolvarVersion = std::move(value);
     return QRM_KIT_SUCCESS;
 }
 VELString QRMInventoryComponent::GetOSCode() const { return mOSCode; }
-QRMKitReturnCode QRMInventoryComponent::SetOSCode(const VELString& value)
+QRMKitReturnCode QRMInventoryComponent::SetOSCode(VELString value)
 {
-    mOSCode = value;
+    mOSCode = std::move(value);
     return QRM_KIT_SUCCESS;
 }
 VELString QRMInventoryComponent::GetMD5Hash() const { return mHashMD5; }
-QRMKitReturnCode QRMInventoryComponent::SetMD5Hash(const VELString& value)
+QRMKitReturnCode QRMInventoryComponent::SetMD5Hash(VELString value)
 {
     mHashMD5 = value;
     return QRM_KIT_SUCCESS;
 }
 VELString QRMInventoryComponent::GetPath() const { return mPath; }
-QRMKitReturnCode QRMInventoryComponent::SetPath(const VELString& value)
+QRMKitReturnCode QRMInventoryComponent::SetPath(VELString value)
 {
-    mPath = value;
+    mPath = std::move(value);
     return QRM_KIT_SUCCESS;
 }
 VELTime QRMInventoryComponent::GetDateTime() const { return mDateTime; }

@@ -10,6 +10,8 @@
 QRMIApplication::QRMIApplication() : mComponentType(QRM_COMPONENT_SBDL) {}
 QRMIApplication::QRMIApplication(const QRMIApplication& other) = default;
 QRMIApplication& QRMIApplication::operator=(const QRMIApplication& other) = default;
+QRMIApplication::QRMIApplication(QRMIApplication&& other) = default;
+QRMIApplication& QRMIApplication::operator=(QRMIApplication&& other) = default;
 QRMIApplication::~QRMIApplication() = default;
 
 QRMComponentTypeValueEnum QRMIApplication::GetComponentType() const { return mComponentType; }
@@ -18,13 +20,13 @@ QRMKitReturnCode QRMIApplication::SetComponentType(const QRMComponentTypeValueEn
     return qrm::Store(mComponentType, componentType);
 }
 VELString QRMIApplication::GetVersion() const { return mVersion; }
-QRMKitReturnCode QRMIApplication::SetVersion(const VELString& version) { return qrm::Store(mVersion, version); }
+QRMKitReturnCode QRMIApplication::SetVersion(VELString version) { return qrm::Store(mVersion, std::move(version)); }
 VELString QRMIApplication::GetDisplay() const { return mDisplay; }
-QRMKitReturnCode QRMIApplication::SetDisplay(const VELString& display) { return qrm::Store(mDisplay, display); }
+QRMKitReturnCode QRMIApplication::SetDisplay(VELString display) { return qrm::Store(mDisplay, std::move(display)); }
 VELString QRMIApplication::GetSubComponentID() const { return mSubComponentID; }
-QRMKitReturnCode QRMIApplication::SetSubComponentID(const VELString& subComponentID)
+QRMKitReturnCode QRMIApplication::SetSubComponentID(VELString subComponentID)
 {
-    return qrm::Store(mSubComponentID, subComponentID);
+    return qrm::Store(mSubComponentID, std::move(subComponentID));
 }
 
 bool QRMIApplication::operator==(const QRMIApplication& other) const
@@ -89,16 +91,16 @@ QRMKitReturnCode QRMIDevice::SetComponentID(unsigned long long componentID)
     return qrm::Store(mComponentID, componentID);
 }
 VELString QRMIDevice::GetDisplay() const { return mDisplay; }
-QRMKitReturnCode QRMIDevice::SetDisplay(const VELString& display) { return qrm::Store(mDisplay, display); }
+QRMKitReturnCode QRMIDevice::SetDisplay(VELString display) { return qrm::Store(mDisplay, std::move(display)); }
 
 void QRMIDevice::GetApplications(std::vector<QRMIApplication*>& out) const
 {
     mApplications.AppendPointersTo(out);
 }
 
-QRMKitReturnCode QRMIDevice::AddApplication(const QRMIApplication& application)
+QRMKitReturnCode QRMIDevice::AddApplication(QRMIApplication application)
 {
-    return mApplications.AddUnique(application);
+    return mApplications.AddUnique(std::move(application));
 }
 
 QRMKitReturnCode QRMIDevice::RemoveApplication(const QRMIApplication& application)
@@ -151,6 +153,8 @@ bool QRMIDevice::operator!=(const QRMIDevice& other) const { return !(*this == o
 QRMISystem::QRMISystem() : mSystemID(0), mSystemIDType(QRM_SYSTEMID_TYPE_BIOS) {}
 QRMISystem::QRMISystem(const QRMISystem& other) = default;
 QRMISystem& QRMISystem::operator=(const QRMISystem& other) = default;
+QRMISystem::QRMISystem(QRMISystem&& other) = default;
+QRMISystem& QRMISystem::operator=(QRMISystem&& other) = default;
 QRMISystem::~QRMISystem() = default;
 
 unsigned int QRMISystem::GetSystemID() const { return mSystemID; }
@@ -161,9 +165,9 @@ QRMKitReturnCode QRMISystem::SetSystemIDType(QRMSystemIDTypeEnum systemIDType)
     return qrm::Store(mSystemIDType, systemIDType);
 }
 VELString QRMISystem::GetDisplay() const { return mDisplay; }
-QRMKitReturnCode QRMISystem::SetDisplay(const VELString& display) { return qrm::Store(mDisplay, display); }
+QRMKitReturnCode QRMISystem::SetDisplay(VELString display) { return qrm::Store(mDisplay, std::move(display)); }
 VELString QRMISystem::GetServiceTag() const { return mServiceTag; }
-QRMKitReturnCode QRMISystem::SetServiceTag(const VELString& serviceTag) { return qrm::Store(mServiceTag, serviceTag); }
+QRMKitReturnCode QRMISystem::SetServiceTag(VELString serviceTag) { return qrm::Store(mServiceTag, std::move(serviceTag)); }
 
 bool QRMISystem::operator==(const QRMISystem& other) const
 {

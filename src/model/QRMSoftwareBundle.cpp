@@ -7,12 +7,14 @@
 QRMBundleContent::QRMBundleContent() = default;
 QRMBundleContent::QRMBundleContent(const QRMBundleContent& other) = default;
 QRMBundleContent& QRMBundleContent::operator=(const QRMBundleContent& other) = default;
+QRMBundleContent::QRMBundleContent(QRMBundleContent&& other) = default;
+QRMBundleContent& QRMBundleContent::operator=(QRMBundleContent&& other) = default;
 QRMBundleContent::~QRMBundleContent() = default;
 
 VELString QRMBundleContent::GetPackageID() const { return mPackageID; }
-QRMKitReturnCode QRMBundleContent::SetPackageID(const VELString& packageID) { return qrm::Store(mPackageID, packageID); }
+QRMKitReturnCode QRMBundleContent::SetPackageID(VELString packageID) { return qrm::Store(mPackageID, std::move(packageID)); }
 VELString QRMBundleContent::GetPath() const { return mPath; }
-QRMKitReturnCode QRMBundleContent::SetPath(const VELString& path) { return qrm::Store(mPath, path); }
+QRMKitReturnCode QRMBundleContent::SetPath(VELString path) { return qrm::Store(mPath, std::move(path)); }
 VELGUID QRMBundleContent::GetIdentifier() const { return mIdentifier; }
 QRMKitReturnCode QRMBundleContent::SetIdentifier(const VELGUID& identifier)
 {
@@ -31,47 +33,49 @@ bool QRMBundleContent::operator!=(const QRMBundleContent& other) const { return 
 QRMSoftwareBundle::QRMSoftwareBundle() : mBundleType(QRM_BUNDLE_BTW32) {}
 QRMSoftwareBundle::QRMSoftwareBundle(const QRMSoftwareBundle& other) = default;
 QRMSoftwareBundle& QRMSoftwareBundle::operator=(const QRMSoftwareBundle& other) = default;
+QRMSoftwareBundle::QRMSoftwareBundle(QRMSoftwareBundle&& other) = default;
+QRMSoftwareBundle& QRMSoftwareBundle::operator=(QRMSoftwareBundle&& other) = default;
 QRMSoftwareBundle::~QRMSoftwareBundle() = default;
 
 QRMName QRMSoftwareBundle::GetName() const { return mName; }
-QRMKitReturnCode QRMSoftwareBundle::SetName(const QRMName& name) { return qrm::Store(mName, name); }
+QRMKitReturnCode QRMSoftwareBundle::SetName(QRMName name) { return qrm::Store(mName, std::move(name)); }
 QRMComponentType QRMSoftwareBundle::GetComponentType() const { return mComponentType; }
-QRMKitReturnCode QRMSoftwareBundle::SetComponentType(const QRMComponentType& componentType)
+QRMKitReturnCode QRMSoftwareBundle::SetComponentType(QRMComponentType componentType)
 {
-    return qrm::Store(mComponentType, componentType);
+    return qrm::Store(mComponentType, std::move(componentType));
 }
 QRMSupportedSystems QRMSoftwareBundle::GetTargetSystems() const { return mTargetSystems; }
-QRMKitReturnCode QRMSoftwareBundle::SetTargetSystems(const QRMSupportedSystems& systems)
+QRMKitReturnCode QRMSoftwareBundle::SetTargetSystems(QRMSupportedSystems systems)
 {
-    return qrm::Store(mTargetSystems, systems);
+    return qrm::Store(mTargetSystems, std::move(systems));
 }
 QRMSupportedOperatingSystems QRMSoftwareBundle::GetTargetOSes() const { return mTargetOSes; }
-QRMKitReturnCode QRMSoftwareBundle::SetTargetOSes(const QRMSupportedOperatingSystems& oses)
+QRMKitReturnCode QRMSoftwareBundle::SetTargetOSes(QRMSupportedOperatingSystems oses)
 {
-    return qrm::Store(mTargetOSes, oses);
+    return qrm::Store(mTargetOSes, std::move(oses));
 }
 QRMRevisionHistory QRMSoftwareBundle::GetRevisionHistory() const { return mRevisionHistory; }
-QRMKitReturnCode QRMSoftwareBundle::SetRevisionHistory(const QRMRevisionHistory& history)
+QRMKitReturnCode QRMSoftwareBundle::SetRevisionHistory(QRMRevisionHistory history)
 {
-    return qrm::Store(mRevisionHistory, history);
+    return qrm::Store(mRevisionHistory, std::move(history));
 }
 QRMImportantInfo QRMSoftwareBundle::GetImportantInfo() const { return mImportantInfo; }
-QRMKitReturnCode QRMSoftwareBundle::SetImportantInfo(const QRMImportantInfo& info)
+QRMKitReturnCode QRMSoftwareBundle::SetImportantInfo(QRMImportantInfo info)
 {
-    return qrm::Store(mImportantInfo, info);
+    return qrm::Store(mImportantInfo, std::move(info));
 }
 VELString QRMSoftwareBundle::GetSchemaVersion() const { return mSchemaVersion; }
-QRMKitReturnCode QRMSoftwareBundle::SetSchemaVersion(const VELString& value) { return qrm::Store(mSchemaVersion, value); }
+QRMKitReturnCode QRMSoftwareBundle::SetSchemaVersion(VELString value) { return qrm::Store(mSchemaVersion, std::move(value)); }
 VELString QRMSoftwareBundle::GetReleaseID() const { return mReleaseID; }
-QRMKitReturnCode QRMSoftwareBundle::SetReleaseID(const VELString& value) { return qrm::Store(mReleaseID, value); }
+QRMKitReturnCode QRMSoftwareBundle::SetReleaseID(VELString value) { return qrm::Store(mReleaseID, std::move(value)); }
 VELTime QRMSoftwareBundle::GetDateTime() const { return mDateTime; }
 QRMKitReturnCode QRMSoftwareBundle::SetDateTime(const VELTime& value) { return qrm::Store(mDateTime, value); }
 VELString QRMSoftwareBundle::GetVendorVersion() const { return mVendorVersion; }
-QRMKitReturnCode QRMSoftwareBundle::SetVendorVersion(const VELString& value) { return qrm::Store(mVendorVersion, value); }
+QRMKitReturnCode QRMSoftwareBundle::SetVendorVersion(VELString value) { return qrm::Store(mVendorVersion, std::move(value)); }
 VELString QRMSoftwareBundle::GetPath() const { return mPath; }
-QRMKitReturnCode QRMSoftwareBundle::SetPath(const VELString& value) { return qrm::Store(mPath, value); }
+QRMKitReturnCode QRMSoftwareBundle::SetPath(VELString value) { return qrm::Store(mPath, std::move(value)); }
 VELString QRMSoftwareBundle::GetBundleID() const { return mBundleID; }
-QRMKitReturnCode QRMSoftwareBundle::SetBundleID(const VELString& value) { return qrm::Store(mBundleID, value); }
+QRMKitReturnCode QRMSoftwareBundle::SetBundleID(VELString value) { return qrm::Store(mBundleID, std::move(value)); }
 VELGUID QRMSoftwareBundle::GetIdentifier() const { return mIdentifier; }
 QRMKitReturnCode QRMSoftwareBundle::SetIdentifier(const VELGUID& value) { return qrm::Store(mIdentifier, value); }
 VELGUID QRMSoftwareBundle::GetSecondaryIdentifier() const { return mSecondaryIdentifier; }
@@ -87,10 +91,10 @@ void QRMSoftwareBundle::GetDescriptionDisplayValues(std::vector<QRMDisplay>& out
     mDescription.GetDisplayValues(out);
 }
 
-QRMKitReturnCode QRMSoftwareBundle::AddDescriptionDisplayValue(const VELString& language,
-                                                               const VELString& value)
+QRMKitReturnCode QRMSoftwareBundle::AddDescriptionDisplayValue(VELString language,
+                                                               VELString value)
 {
-    return mDescription.AddDisplayValue(language, value);
+    return mDescription.AddDisplayValue(std::move(language), std::move(value));
 }
 
 QRMKitReturnCode QRMSoftwareBundle::RemoveDescriptionDisplayValue(const VELString& language)
@@ -98,9 +102,9 @@ QRMKitReturnCode QRMSoftwareBundle::RemoveDescriptionDisplayValue(const VELStrin
     return mDescription.RemoveDisplayValue(language);
 }
 
-QRMKitReturnCode QRMSoftwareBundle::AddContent(const QRMBundleContent& content)
+QRMKitReturnCode QRMSoftwareBundle::AddContent(QRMBundleContent content)
 {
-    mContents.Append(content);
+    mContents.Append(std::move(content));
     return QRM_KIT_SUCCESS;
 }
 

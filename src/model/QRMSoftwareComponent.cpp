@@ -11,12 +11,14 @@ QRMFMPWrapperInformation::QRMFMPWrapperInformation()
 }
 QRMFMPWrapperInformation::QRMFMPWrapperInformation(const QRMFMPWrapperInformation& other) = default;
 QRMFMPWrapperInformation& QRMFMPWrapperInformation::operator=(const QRMFMPWrapperInformation& other) = default;
+QRMFMPWrapperInformation::QRMFMPWrapperInformation(QRMFMPWrapperInformation&& other) = default;
+QRMFMPWrapperInformation& QRMFMPWrapperInformation::operator=(QRMFMPWrapperInformation&& other) = default;
 QRMFMPWrapperInformation::~QRMFMPWrapperInformation() = default;
 
 bool QRMFMPWrapperInformation::IsDigitallySigned() const { return mDigitallySigned; }
 QRMKitReturnCode QRMFMPWrapperInformation::SetDigitallySigned(bool value) { return qrm::Store(mDigitallySigned, value); }
 VELString QRMFMPWrapperInformation::GetName() const { return mName; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetName(const VELString& value) { return qrm::Store(mName, value); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetName(VELString value) { return qrm::Store(mName, std::move(value)); }
 bool QRMFMPWrapperInformation::IsInventorySupported() const { return mInventorySupported; }
 QRMKitReturnCode QRMFMPWrapperInformation::SetInventorySupported(bool value)
 {
@@ -27,13 +29,13 @@ QRMKitReturnCode QRMFMPWrapperInformation::SetUpdateSupported(bool value) { retu
 VELGUID QRMFMPWrapperInformation::GetIdentifier() const { return mIdentifier; }
 QRMKitReturnCode QRMFMPWrapperInformation::SetIdentifier(const VELGUID& value) { return qrm::Store(mIdentifier, value); }
 VELString QRMFMPWrapperInformation::GetFilePath() const { return mFilePath; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetFilePath(const VELString& value) { return qrm::Store(mFilePath, value); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetFilePath(VELString value) { return qrm::Store(mFilePath, std::move(value)); }
 VELString QRMFMPWrapperInformation::GetDriverName() const { return mDriverName; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetDriverName(const VELString& value) { return qrm::Store(mDriverName, value); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetDriverName(VELString value) { return qrm::Store(mDriverName, std::move(value)); }
 VELString QRMFMPWrapperInformation::GetDriverVersion() const { return mDriverVersion; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetDriverVersion(const VELString& value)
+QRMKitReturnCode QRMFMPWrapperInformation::SetDriverVersion(VELString value)
 {
-    return qrm::Store(mDriverVersion, value);
+    return qrm::Store(mDriverVersion, std::move(value));
 }
 bool QRMFMPWrapperInformation::IsRollbackSupported() const { return mRollbackSupported; }
 QRMKitReturnCode QRMFMPWrapperInformation::SetRollbackSupported(bool value)
@@ -63,79 +65,81 @@ QRMSoftwareComponent::QRMSoftwareComponent()
 }
 QRMSoftwareComponent::QRMSoftwareComponent(const QRMSoftwareComponent& other) = default;
 QRMSoftwareComponent& QRMSoftwareComponent::operator=(const QRMSoftwareComponent& other) = default;
+QRMSoftwareComponent::QRMSoftwareComponent(QRMSoftwareComponent&& other) = default;
+QRMSoftwareComponent& QRMSoftwareComponent::operator=(QRMSoftwareComponent&& other) = default;
 QRMSoftwareComponent::~QRMSoftwareComponent() = default;
 
 QRMName QRMSoftwareComponent::GetName() const { return mName; }
-QRMKitReturnCode QRMSoftwareComponent::SetName(const QRMName& name) { return qrm::Store(mName, name); }
+QRMKitReturnCode QRMSoftwareComponent::SetName(QRMName name) { return qrm::Store(mName, std::move(name)); }
 QRMComponentType QRMSoftwareComponent::GetComponentType() const { return mComponentType; }
-QRMKitReturnCode QRMSoftwareComponent::SetComponentType(const QRMComponentType& componentType)
+QRMKitReturnCode QRMSoftwareComponent::SetComponentType(QRMComponentType componentType)
 {
-    return qrm::Store(mComponentType, componentType);
+    return qrm::Store(mComponentType, std::move(componentType));
 }
 QRMCategory QRMSoftwareComponent::GetCategory() const { return mCategory; }
-QRMKitReturnCode QRMSoftwareComponent::SetCategory(const QRMCategory& category) { return qrm::Store(mCategory, category); }
+QRMKitReturnCode QRMSoftwareComponent::SetCategory(QRMCategory category) { return qrm::Store(mCategory, std::move(category)); }
 QRMLUCategory QRMSoftwareComponent::GetLUCategory() const { return mLUCategory; }
-QRMKitReturnCode QRMSoftwareComponent::SetLUCategory(const QRMLUCategory& category)
+QRMKitReturnCode QRMSoftwareComponent::SetLUCategory(QRMLUCategory category)
 {
-    return qrm::Store(mLUCategory, category);
+    return qrm::Store(mLUCategory, std::move(category));
 }
 QRMSupportedSystems QRMSoftwareComponent::GetSupportedSystems() const { return mSupportedSystems; }
-QRMKitReturnCode QRMSoftwareComponent::SetSupportedSystems(const QRMSupportedSystems& systems)
+QRMKitReturnCode QRMSoftwareComponent::SetSupportedSystems(QRMSupportedSystems systems)
 {
-    return qrm::Store(mSupportedSystems, systems);
+    return qrm::Store(mSupportedSystems, std::move(systems));
 }
 QRMSupportedOperatingSystems QRMSoftwareComponent::GetSupportedOperatingSystems() const
 {
     return mSupportedOperatingSystems;
 }
-QRMKitReturnCode QRMSoftwareComponent::SetSupportedOperatingSystems(const QRMSupportedOperatingSystems& systems)
+QRMKitReturnCode QRMSoftwareComponent::SetSupportedOperatingSystems(QRMSupportedOperatingSystems systems)
 {
-    return qrm::Store(mSupportedOperatingSystems, systems);
+    return qrm::Store(mSupportedOperatingSystems, std::move(systems));
 }
 QRMInstallInstruction QRMSoftwareComponent::GetInstallInstruction() const { return mInstallInstruction; }
-QRMKitReturnCode QRMSoftwareComponent::SetInstallInstruction(const QRMInstallInstruction& instruction)
+QRMKitReturnCode QRMSoftwareComponent::SetInstallInstruction(QRMInstallInstruction instruction)
 {
-    return qrm::Store(mInstallInstruction, instruction);
+    return qrm::Store(mInstallInstruction, std::move(instruction));
 }
 QRMRevisionHistory QRMSoftwareComponent::GetRevisionHistory() const { return mRevisionHistory; }
-QRMKitReturnCode QRMSoftwareComponent::SetRevisionHistory(const QRMRevisionHistory& history)
+QRMKitReturnCode QRMSoftwareComponent::SetRevisionHistory(QRMRevisionHistory history)
 {
-    return qrm::Store(mRevisionHistory, history);
+    return qrm::Store(mRevisionHistory, std::move(history));
 }
 QRMImportantInfo QRMSoftwareComponent::GetImportantInfo() const { return mImportantInfo; }
-QRMKitReturnCode QRMSoftwareComponent::SetImportantInfo(const QRMImportantInfo& info)
+QRMKitReturnCode QRMSoftwareComponent::SetImportantInfo(QRMImportantInfo info)
 {
-    return qrm::Store(mImportantInfo, info);
+    return qrm::Store(mImportantInfo, std::move(info));
 }
 QRMCriticality QRMSoftwareComponent::GetCriticality() const { return mCriticality; }
-QRMKitReturnCode QRMSoftwareComponent::SetCriticality(const QRMCriticality& criticality)
+QRMKitReturnCode QRMSoftwareComponent::SetCriticality(QRMCriticality criticality)
 {
-    return qrm::Store(mCriticality, criticality);
+    return qrm::Store(mCriticality, std::move(criticality));
 }
 VELGUID QRMSoftwareComponent::GetMSIID() const { return mMSIID; }
 QRMKitReturnCode QRMSoftwareComponent::SetMSIID(VELGUID& id) { return qrm::Store(mMSIID, id); }
 VELString QRMSoftwareComponent::GetSchemaVersion() const { return mSchemaVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetSchemaVersion(const VELString& value) { return qrm::Store(mSchemaVersion, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetSchemaVersion(VELString value) { return qrm::Store(mSchemaVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetReleaseID() const { return mReleaseID; }
-QRMKitReturnCode QRMSoftwareComponent::SetReleaseID(const VELString& value) { return qrm::Store(mReleaseID, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetReleaseID(VELString value) { return qrm::Store(mReleaseID, std::move(value)); }
 VELTime QRMSoftwareComponent::GetReleaseDate() const { return mReleaseDate; }
 QRMKitReturnCode QRMSoftwareComponent::SetReleaseDate(const VELTime& value) { return qrm::Store(mReleaseDate, value); }
 VELString QRMSoftwareComponent::GetVendorVersion() const { return mVendorVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetVendorVersion(const VELString& value) { return qrm::Store(mVendorVersion, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetVendorVersion(VELString value) { return qrm::Store(mVendorVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetTolvarVersion() const { return mTolvarVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetTolvarVersion(const VELString& value) { return qrm::Store(mTolvarVersion, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetTolvarVersion(VELString value) { return qrm::Store(mTolvarVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetPackageType() const { return mPackageType; }
-QRMKitReturnCode QRMSoftwareComponent::SetPackageType(const VELString& value) { return qrm::Store(mPackageType, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetPackageType(VELString value) { return qrm::Store(mPackageType, std::move(value)); }
 VELString QRMSoftwareComponent::GetXMLGenVersion() const { return mXMLGenVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetXMLGenVersion(const VELString& value) { return qrm::Store(mXMLGenVersion, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetXMLGenVersion(VELString value) { return qrm::Store(mXMLGenVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetPath() const { return mPath; }
-QRMKitReturnCode QRMSoftwareComponent::SetPath(const VELString& value) { return qrm::Store(mPath, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetPath(VELString value) { return qrm::Store(mPath, std::move(value)); }
 VELString QRMSoftwareComponent::GetPackageID() const { return mPackageID; }
-QRMKitReturnCode QRMSoftwareComponent::SetPackageID(const VELString& value) { return qrm::Store(mPackageID, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetPackageID(VELString value) { return qrm::Store(mPackageID, std::move(value)); }
 VELTime QRMSoftwareComponent::GetDateTime() const { return mDateTime; }
 QRMKitReturnCode QRMSoftwareComponent::SetDateTime(const VELTime& value) { return qrm::Store(mDateTime, value); }
 VELString QRMSoftwareComponent::GetMD5Hash() const { return mHashMD5; }
-QRMKitReturnCode QRMSoftwareComponent::SetMD5Hash(const VELString& value) { return qrm::Store(mHashMD5, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetMD5Hash(VELString value) { return qrm::Store(mHashMD5, std::move(value)); }
 unsigned long long QRMSoftwareComponent::GetSize() const { return mSize; }
 QRMKitReturnCode QRMSoftwareComponent::SetSize(unsigned long long value) { return qrm::Store(mSize, value); }
 VELGUID QRMSoftwareComponent::GetIdentifier() const { return mIdentifier; }
@@ -155,10 +159,10 @@ void QRMSoftwareComponent::GetDescriptionDisplayValues(std::vector<QRMDisplay>& 
     mDescription.GetDisplayValues(out);
 }
 
-QRMKitReturnCode QRMSoftwareComponent::AddDescriptionDisplayValue(const VELString& language,
-                                                                  const VELString& value)
+QRMKitReturnCode QRMSoftwareComponent::AddDescriptionDisplayValue(VELString language,
+                                                                  VELString value)
 {
-    return mDescription.AddDisplayValue(language, value);
+    return mDescription.AddDisplayValue(std::move(language), std::move(value));
 }
 
 QRMKitReturnCode QRMSoftwareComponent::RemoveDescriptionDisplayValue(const VELString& language)
@@ -174,6 +178,11 @@ void QRMSoftwareComponent::GetSupportedDevices(std::vector<QRMDevice*>& out) con
 QRMKitReturnCode QRMSoftwareComponent::AddDeviceSupport(QRMDevice& device)
 {
     return mSupportedDevices.AddUnique(device);
+}
+
+QRMKitReturnCode QRMSoftwareComponent::AddDeviceSupport(QRMDevice&& device)
+{
+    return mSupportedDevices.AddUnique(std::move(device));
 }
 
 QRMKitReturnCode QRMSoftwareComponent::RemoveDeviceSupport(QRMDevice& device)

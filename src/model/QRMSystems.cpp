@@ -15,36 +15,38 @@ QRMOperatingSystem::QRMOperatingSystem()
 }
 QRMOperatingSystem::QRMOperatingSystem(const QRMOperatingSystem& other) = default;
 QRMOperatingSystem& QRMOperatingSystem::operator=(const QRMOperatingSystem& other) = default;
+QRMOperatingSystem::QRMOperatingSystem(QRMOperatingSystem&& other) = default;
+QRMOperatingSystem& QRMOperatingSystem::operator=(QRMOperatingSystem&& other) = default;
 QRMOperatingSystem::~QRMOperatingSystem() = default;
 
 VELString QRMOperatingSystem::GetCode() const { return mCode; }
-QRMKitReturnCode QRMOperatingSystem::SetCode(const VELString& code) { return qrm::Store(mCode, code); }
+QRMKitReturnCode QRMOperatingSystem::SetCode(VELString code) { return qrm::Store(mCode, std::move(code)); }
 VELString QRMOperatingSystem::GetVendor() const { return mVendor; }
-QRMKitReturnCode QRMOperatingSystem::SetVendor(const VELString& vendor) { return qrm::Store(mVendor, vendor); }
+QRMKitReturnCode QRMOperatingSystem::SetVendor(VELString vendor) { return qrm::Store(mVendor, std::move(vendor)); }
 QRMOSArchitectureEnum QRMOperatingSystem::GetArchitecture() const { return mArchitecture; }
 QRMKitReturnCode QRMOperatingSystem::SetArchitecture(QRMOSArchitectureEnum architecture)
 {
     return qrm::Store(mArchitecture, architecture);
 }
 VELString QRMOperatingSystem::GetMajorVersion() const { return mMajorVersion; }
-QRMKitReturnCode QRMOperatingSystem::SetMajorVersion(const VELString& version)
+QRMKitReturnCode QRMOperatingSystem::SetMajorVersion(VELString version)
 {
-    return qrm::Store(mMajorVersion, version);
+    return qrm::Store(mMajorVersion, std::move(version));
 }
 VELString QRMOperatingSystem::GetMinorVersion() const { return mMinorVersion; }
-QRMKitReturnCode QRMOperatingSystem::SetMinorVersion(const VELString& version)
+QRMKitReturnCode QRMOperatingSystem::SetMinorVersion(VELString version)
 {
-    return qrm::Store(mMinorVersion, version);
+    return qrm::Store(mMinorVersion, std::move(version));
 }
 VELString QRMOperatingSystem::GetServicePackMajorVersion() const { return mServicePackMajorVersion; }
-QRMKitReturnCode QRMOperatingSystem::SetServicePackMajorVersion(const VELString& version)
+QRMKitReturnCode QRMOperatingSystem::SetServicePackMajorVersion(VELString version)
 {
-    return qrm::Store(mServicePackMajorVersion, version);
+    return qrm::Store(mServicePackMajorVersion, std::move(version));
 }
 VELString QRMOperatingSystem::GetServicePackMinorVersion() const { return mServicePackMinorVersion; }
-QRMKitReturnCode QRMOperatingSystem::SetServicePackMinorVersion(const VELString& version)
+QRMKitReturnCode QRMOperatingSystem::SetServicePackMinorVersion(VELString version)
 {
-    return qrm::Store(mServicePackMinorVersion, version);
+    return qrm::Store(mServicePackMinorVersion, std::move(version));
 }
 bool QRMOperatingSystem::IsForPreInstallEnvironment() const { return mPreInstallEnvironment; }
 QRMKitReturnCode QRMOperatingSystem::SetPreInstallEnvironment(bool preInstallEnvironment)
@@ -87,6 +89,8 @@ QRMSupportedOperatingSystems::QRMSupportedOperatingSystems() = default;
 QRMSupportedOperatingSystems::QRMSupportedOperatingSystems(const QRMSupportedOperatingSystems& other) = default;
 QRMSupportedOperatingSystems& QRMSupportedOperatingSystems::operator=(
     const QRMSupportedOperatingSystems& other) = default;
+QRMSupportedOperatingSystems::QRMSupportedOperatingSystems(QRMSupportedOperatingSystems&& other) = default;
+QRMSupportedOperatingSystems& QRMSupportedOperatingSystems::operator=(QRMSupportedOperatingSystems&& other) = default;
 QRMSupportedOperatingSystems::~QRMSupportedOperatingSystems() = default;
 
 void QRMSupportedOperatingSystems::GetOSes(std::vector<QRMOperatingSystem>& out) const
@@ -97,6 +101,11 @@ void QRMSupportedOperatingSystems::GetOSes(std::vector<QRMOperatingSystem>& out)
 QRMKitReturnCode QRMSupportedOperatingSystems::AddOS(QRMOperatingSystem& os)
 {
     return mOperatingSystems.AddUnique(os);
+}
+
+QRMKitReturnCode QRMSupportedOperatingSystems::AddOS(QRMOperatingSystem&& os)
+{
+    return mOperatingSystems.AddUnique(std::move(os));
 }
 
 QRMKitReturnCode QRMSupportedOperatingSystems::RemoveOS(QRMOperatingSystem& os)
@@ -119,6 +128,8 @@ bool QRMSupportedOperatingSystems::operator!=(const QRMSupportedOperatingSystems
 QRMModel::QRMModel() : mSystemID(0), mSecondID(0), mThirdID(0) {}
 QRMModel::QRMModel(const QRMModel& other) = default;
 QRMModel& QRMModel::operator=(const QRMModel& other) = default;
+QRMModel::QRMModel(QRMModel&& other) = default;
+QRMModel& QRMModel::operator=(QRMModel&& other) = default;
 QRMModel::~QRMModel() = default;
 
 unsigned int QRMModel::GetSystemID() const { return mSystemID; }
@@ -128,9 +139,9 @@ QRMKitReturnCode QRMModel::SetSecondID(unsigned int secondID) { return qrm::Stor
 unsigned int QRMModel::GetThirdID() const { return mThirdID; }
 QRMKitReturnCode QRMModel::SetThirdID(unsigned int thirdID) { return qrm::Store(mThirdID, thirdID); }
 
-QRMKitReturnCode QRMModel::AddSubBrand(const QRMBrand& brand)
+QRMKitReturnCode QRMModel::AddSubBrand(QRMBrand brand)
 {
-    return mSubBrands.AddUnique(brand);
+    return mSubBrands.AddUnique(std::move(brand));
 }
 
 void QRMModel::GetSubBrands(std::vector<QRMBrand*>& out) const { mSubBrands.AppendPointersTo(out); }
@@ -140,16 +151,18 @@ void QRMModel::GetSubBrands(std::vector<QRMBrand*>& out) const { mSubBrands.Appe
 QRMBrand::QRMBrand() : mKey(0) {}
 QRMBrand::QRMBrand(const QRMBrand& other) = default;
 QRMBrand& QRMBrand::operator=(const QRMBrand& other) = default;
+QRMBrand::QRMBrand(QRMBrand&& other) = default;
+QRMBrand& QRMBrand::operator=(QRMBrand&& other) = default;
 QRMBrand::~QRMBrand() = default;
 
 unsigned int QRMBrand::GetKey() const { return mKey; }
-QRMKitReturnCode QRMBrand::SetKey(const VELString& key) { return qrm::Store(mKey, key.GetIntValue(std::dec)); }
+QRMKitReturnCode QRMBrand::SetKey(VELString key) { return qrm::Store(mKey, key.GetIntValue(std::dec)); }
 VELString QRMBrand::GetPrefix() const { return mPrefix; }
-QRMKitReturnCode QRMBrand::SetPrefix(const VELString& prefix) { return qrm::Store(mPrefix, prefix); }
+QRMKitReturnCode QRMBrand::SetPrefix(VELString prefix) { return qrm::Store(mPrefix, std::move(prefix)); }
 
-QRMKitReturnCode QRMBrand::AddModel(const QRMModel& model)
+QRMKitReturnCode QRMBrand::AddModel(QRMModel model)
 {
-    mModels.Append(model);
+    mModels.Append(std::move(model));
     return QRM_KIT_SUCCESS;
 }
 
@@ -189,9 +202,11 @@ bool QRMBrand::operator!=(const QRMBrand& other) const { return !(*this == other
 QRMSupportedSystems::QRMSupportedSystems() : mDisplay(false) {}
 QRMSupportedSystems::QRMSupportedSystems(const QRMSupportedSystems& other) = default;
 QRMSupportedSystems& QRMSupportedSystems::operator=(const QRMSupportedSystems& other) = default;
+QRMSupportedSystems::QRMSupportedSystems(QRMSupportedSystems&& other) = default;
+QRMSupportedSystems& QRMSupportedSystems::operator=(QRMSupportedSystems&& other) = default;
 QRMSupportedSystems::~QRMSupportedSystems() = default;
 
-QRMKitReturnCode QRMSupportedSystems::AddBrand(const QRMBrand& brand) { return mBrands.AddUnique(brand); }
+QRMKitReturnCode QRMSupportedSystems::AddBrand(QRMBrand brand) { return mBrands.AddUnique(std::move(brand)); }
 
 void QRMSupportedSystems::GetBrands(std::vector<QRMBrand*>& out) const { mBrands.AppendPointersTo(out); }
 
