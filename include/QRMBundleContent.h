@@ -7,6 +7,8 @@
 #include "VELGUID.h"
 #include "VELString.h"
 
+#include <string_view>
+
 class QRMKIT_API QRMBundleContent {
 public:
     QRMBundleContent();
@@ -19,6 +21,9 @@ public:
     VELString GetPackageID() const;
     QRMKitReturnCode SetPackageID(VELString packageID);
     VELString GetPath() const;
+    // The path in place, without a copy: valid while this object lives and
+    // its path is not changed. For callers that scan many entries.
+    std::u16string_view GetPathView() const;
     QRMKitReturnCode SetPath(VELString path);
     // Never set by the catalog reader: the nil GUID unless a caller sets it.
     VELGUID GetIdentifier() const;

@@ -9,6 +9,7 @@
 #include "QRMOwnedList.h"
 #include "VELString.h"
 
+#include <memory>
 #include <vector>
 
 class QRMKIT_API QRMIDevice : public QRMDisplayList {
@@ -65,7 +66,16 @@ public:
     bool operator!=(const QRMIDevice& other) const;
 
 private:
+    struct ApplicationIndex;
+    void DropApplicationIndex() const;
+
     QRMOwnedList<QRMIApplication> mApplications;
+    // Finds an equal application without walking them all, while the
+    // device is being filled (a device may list very many). Trusted only as
+    // long as no caller can have changed a held application: once they are
+    // handed out, AddApplication walks the list again.
+    mutable std::unique_ptr<ApplicationIndex> mApplicationIndex;
+    mutable bool mApplicationsHandedOut;
     VELString mDisplay;
     int mBus;
     int mDevice;

@@ -102,8 +102,18 @@ public:
     bool Contains(const T& item) const { return IndexOfEqual(item) < mItems.size(); }
 
     // QRM_KIT_ALREADY_EXISTS when a stored entry equals `item`, else appends
-    // it and returns QRM_KIT_SUCCESS.
-    QRMKitReturnCode AddUnique(T item)
+    // a copy of it and returns QRM_KIT_SUCCESS.
+    QRMKitReturnCode AddUnique(const T& item)
+    {
+        if (Contains(item)) {
+            return QRM_KIT_ALREADY_EXISTS;
+        }
+        Append(item);
+        return QRM_KIT_SUCCESS;
+    }
+
+    // The same, moving `item` in when it is appended.
+    QRMKitReturnCode AddUnique(T&& item)
     {
         if (Contains(item)) {
             return QRM_KIT_ALREADY_EXISTS;

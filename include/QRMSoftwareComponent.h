@@ -22,6 +22,8 @@
 #include "QRMSupportedSystems.h"
 #include "VELGUID.h"
 #include "VELString.h"
+
+#include <string_view>
 #include "VELTime.h"
 
 #include <vector>
@@ -73,6 +75,9 @@ public:
     VELString GetXMLGenVersion() const;
     QRMKitReturnCode SetXMLGenVersion(VELString value);
     VELString GetPath() const;
+    // The path in place, without a copy: valid while this object lives and
+    // its path is not changed. For callers that scan many entries.
+    std::u16string_view GetPathView() const;
     QRMKitReturnCode SetPath(VELString value);
     VELString GetPackageID() const;
     QRMKitReturnCode SetPackageID(VELString value);

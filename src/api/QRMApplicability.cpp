@@ -6,6 +6,7 @@
 #include "api/QRMManifest.h"
 
 #include <algorithm>
+#include <string_view>
 #include <unordered_map>
 
 namespace {
@@ -90,17 +91,28 @@ struct CandidateIndex {
 
     CandidateIndex(const QRMSoftwareBundle& bundle, const QRMOwnedList<QRMSoftwareComponent>& components)
     {
-        // The catalog's components by file name, in catalog order.
-        std::unordered_map<VELString, std::vector<QRMSoftwareComponent*>, VELStringHash> byFileName;
-        for (QRMSoftwareComponent* component : components) {
-            byFileName[TextAfterLast(component->GetPath(), u'/')].push_back(component);
-        }
+        // The bundle's package file names, each with the catalog's
+        // components of that file name in catalog order. Only names the
+        // bundle lists are indexed: the catalog may hold many more.
         std::vector<QRMBundleContent> packages;
         bundle.GetContents(packages);
+        std::unordered_map<std::u16string_view, std::vector<QRMSoftwareComponent*>> byFileName;
+        byFileName.reserve(packages.size());
+        for (const QRMBundleContent& package : packages) {
+            byFileName[package.GetPathView()];
+        }
+        for (QRMSoftwareComponent* component : components) {
+            std::u16string_view path = component->GetPathView();
+            std::size_t slash = path.rfind(u'/');
+            auto listed = byFileName.find(slash == std::u16string_view::npos ? path : path.substr(slash + 1));
+            if (listed != byFileName.end()) {
+                listed->second.push_back(component);
+            }
+        }
         std::vector<QRMDevice*> devices;
         std::vector<QRMPCIInfo*> pciInfo;
         for (const QRMBundleContent& package : packages) {
-            auto listed = byFileName.find(package.GetPath());
+            auto listed = byFileName.find(package.GetPathView());
             if (listed == byFileName.end()) {
                 continue;
             }

@@ -5,6 +5,9 @@
 
 #include "model/QRMStore.h"
 
+#include <string_view>
+#include <unordered_map>
+
 // ---- QRMIApplication
 
 QRMIApplication::QRMIApplication() : mComponentType(QRM_COMPONENT_SBDL) {}
@@ -40,13 +43,37 @@ bool QRMIApplication::operator!=(const QRMIApplication& other) const { return !(
 
 // ---- QRMIDevice
 
+// Applications by a hash of the texts their equality compares exactly, so
+// that equal applications always share a bucket.
+struct QRMIDevice::ApplicationIndex {
+    static std::size_t HashOf(const QRMIApplication& application)
+    {
+        std::hash<std::u16string_view> text;
+        std::size_t hash = static_cast<std::size_t>(application.GetComponentType());
+        for (const VELString& part :
+             {application.GetVersion(), application.GetDisplay(), application.GetSubComponentID()}) {
+            hash = hash * 1000003u ^ text(part.GetUTF16View());
+        }
+        return hash;
+    }
+
+    std::unordered_multimap<std::size_t, const QRMIApplication*> byHash;
+};
+
 QRMIDevice::QRMIDevice()
-    : mBus(0), mDevice(0), mFunction(0), mComponentID(0), mVendorID(0), mDeviceID(0),
-      mSubDeviceID(0), mSubVendorID(0), mComponentInstance(0)
+    : mApplicationsHandedOut(false), mBus(0), mDevice(0), mFunction(0), mComponentID(0),
+      mVendorID(0), mDeviceID(0), mSubDeviceID(0), mSubVendorID(0), mComponentInstance(0)
 {
 }
 
-QRMIDevice::QRMIDevice(const QRMIDevice& other) = default;
+QRMIDevice::QRMIDevice(const QRMIDevice& other)
+    : QRMDisplayList(other), mApplications(other.mApplications), mApplicationsHandedOut(false),
+      mDisplay(other.mDisplay), mBus(other.mBus), mDevice(other.mDevice),
+      mFunction(other.mFunction), mComponentID(other.mComponentID), mVendorID(other.mVendorID),
+      mDeviceID(other.mDeviceID), mSubDeviceID(other.mSubDeviceID),
+      mSubVendorID(other.mSubVendorID), mComponentInstance(other.mComponentInstance)
+{
+}
 
 QRMIDevice& QRMIDevice::operator=(const QRMIDevice& other)
 {
@@ -95,16 +122,40 @@ QRMKitReturnCode QRMIDevice::SetDisplay(VELString display) { return qrm::Store(m
 
 void QRMIDevice::GetApplications(std::vector<QRMIApplication*>& out) const
 {
+    mApplicationsHandedOut = true;
+    DropApplicationIndex();
     mApplications.AppendPointersTo(out);
 }
 
 QRMKitReturnCode QRMIDevice::AddApplication(QRMIApplication application)
 {
-    return mApplications.AddUnique(std::move(application));
+    if (mApplicationsHandedOut) {
+        return mApplications.AddUnique(std::move(application));
+    }
+    if (!mApplicationIndex) {
+        mApplicationIndex.reset(new ApplicationIndex);
+        for (const QRMIApplication* held : mApplications) {
+            mApplicationIndex->byHash.emplace(ApplicationIndex::HashOf(*held), held);
+        }
+    }
+    const std::size_t hash = ApplicationIndex::HashOf(application);
+    auto sameHash = mApplicationIndex->byHash.equal_range(hash);
+    for (auto entry = sameHash.first; entry != sameHash.second; ++entry) {
+        if (*entry->second == application) {
+            return QRM_KIT_ALREADY_EXISTS;
+        }
+    }
+    const QRMIApplication* added = mApplications.Append(std::move(application));
+    mApplicationIndex->byHash.emplace(hash, added);
+    return QRM_KIT_SUCCESS;
 }
+
+void QRMIDevice::DropApplicationIndex() const { mApplicationIndex.reset(); }
 
 QRMKitReturnCode QRMIDevice::RemoveApplication(const QRMIApplication& application)
 {
+    // Removal clears and moves entries: the index is rebuilt when needed.
+    DropApplicationIndex();
     // After taking an entry out, the walk moves one place on from where it
     // stood, so the entry that moved into the freed place is not examined.
     std::size_t position = 0;
@@ -137,11 +188,13 @@ bool ShareAnApplication(const QRMOwnedList<QRMIApplication>& left,
 
 bool QRMIDevice::operator==(const QRMIDevice& other) const
 {
-    return mDisplay == other.mDisplay && mBus == other.mBus && mDevice == other.mDevice &&
-           mFunction == other.mFunction && mComponentID == other.mComponentID &&
-           mVendorID == other.mVendorID && mDeviceID == other.mDeviceID &&
-           mSubDeviceID == other.mSubDeviceID && mSubVendorID == other.mSubVendorID &&
-           mComponentInstance == other.mComponentInstance && TextsAgree(other) &&
+    // The numbers first: they tell most devices apart at once, which keeps
+    // the duplicate check of a large inventory fast.
+    return mComponentID == other.mComponentID && mVendorID == other.mVendorID &&
+           mDeviceID == other.mDeviceID && mSubDeviceID == other.mSubDeviceID &&
+           mSubVendorID == other.mSubVendorID && mBus == other.mBus && mDevice == other.mDevice &&
+           mFunction == other.mFunction && mComponentInstance == other.mComponentInstance &&
+           mDisplay == other.mDisplay && TextsAgree(other) &&
            !ShareAnApplication(mApplications, other.mApplications) &&
            !ShareAnApplication(other.mApplications, mApplications);
 }

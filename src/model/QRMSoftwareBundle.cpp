@@ -14,6 +14,7 @@ QRMBundleContent::~QRMBundleContent() = default;
 VELString QRMBundleContent::GetPackageID() const { return mPackageID; }
 QRMKitReturnCode QRMBundleContent::SetPackageID(VELString packageID) { return qrm::Store(mPackageID, std::move(packageID)); }
 VELString QRMBundleContent::GetPath() const { return mPath; }
+std::u16string_view QRMBundleContent::GetPathView() const { return mPath.GetUTF16View(); }
 QRMKitReturnCode QRMBundleContent::SetPath(VELString path) { return qrm::Store(mPath, std::move(path)); }
 VELGUID QRMBundleContent::GetIdentifier() const { return mIdentifier; }
 QRMKitReturnCode QRMBundleContent::SetIdentifier(const VELGUID& identifier)

@@ -133,6 +133,7 @@ QRMKitReturnCode QRMSoftwareComponent::SetPackageType(VELString value) { return 
 VELString QRMSoftwareComponent::GetXMLGenVersion() const { return mXMLGenVersion; }
 QRMKitReturnCode QRMSoftwareComponent::SetXMLGenVersion(VELString value) { return qrm::Store(mXMLGenVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetPath() const { return mPath; }
+std::u16string_view QRMSoftwareComponent::GetPathView() const { return mPath.GetUTF16View(); }
 QRMKitReturnCode QRMSoftwareComponent::SetPath(VELString value) { return qrm::Store(mPath, std::move(value)); }
 VELString QRMSoftwareComponent::GetPackageID() const { return mPackageID; }
 QRMKitReturnCode QRMSoftwareComponent::SetPackageID(VELString value) { return qrm::Store(mPackageID, std::move(value)); }
