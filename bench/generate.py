@@ -246,7 +246,7 @@ def main():
 
     rng = random.Random(args.seed)
     systems = ["%04X" % (0x0A00 + 0x11 * i) for i in range(args.systems)]
-    components = args.components or max(10, int(args.target_mb * 1024 * 1024 / 3600))
+    components = args.components or max(10, int(args.target_mb * 1000 * 1000 / 2590))
     comps = make_components(rng, components, systems)
     catalog = Sink()
     write_catalog(catalog, rng, comps, systems, args.packages, BUNDLE_TYPES[:args.bundle_types])

@@ -12,6 +12,7 @@
 #include "QRMPCIInfo.h"
 #include "QRMPnPInfo.h"
 #include "QRMRollbackInformation.h"
+#include "QRMSeldom.h"
 #include "QRMSoftDependency.h"
 #include "QRMSubComponent.h"
 
@@ -73,13 +74,10 @@ public:
     bool operator!=(const QRMDevice& other) const;
 
 private:
+    struct Records;
+
     QRMOwnedList<QRMPCIInfo> mPCIInfo;
-    QRMOwnedList<QRMPnPInfo> mPnPInfo;
-    QRMOwnedList<QRMSubComponent> mSubComponents;
-    QRMOwnedList<QRMDependency> mDependencies;
-    QRMOwnedList<QRMSoftDependency> mSoftDependencies;
-    QRMOwnedList<QRMDeviceApplicability> mApplicability;
-    QRMRollbackInformation mRollbackInformation;
+    QRMSeldom<Records> mRecords;
     unsigned long long mComponentID;
     bool mEmbedded;
 };

@@ -16,6 +16,8 @@
 #include "QRMKitTypes.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <new>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -277,18 +279,21 @@ private:
             if (capacity <= mCapacity) {
                 return;
             }
+            if (capacity > 0xFFFFFFFFu) {
+                throw std::bad_alloc();
+            }
             T** data = new T*[capacity];
             for (std::size_t i = 0; i < mSize; ++i) {
                 data[i] = mData[i];
             }
             ReleaseHeap();
             mData = data;
-            mCapacity = capacity;
+            mCapacity = static_cast<std::uint32_t>(capacity);
         }
         void push_back(T* item)
         {
             if (mSize == mCapacity) {
-                Reserve(mCapacity * 2);
+                Reserve(static_cast<std::size_t>(mCapacity) * 2);
             }
             mData[mSize++] = item;
         }
@@ -330,8 +335,8 @@ private:
         }
 
         T** mData;
-        std::size_t mSize;
-        std::size_t mCapacity;
+        std::uint32_t mSize;
+        std::uint32_t mCapacity;
         T* mInline;
     };
 

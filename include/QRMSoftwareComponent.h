@@ -17,6 +17,7 @@
 #include "QRMLUCategory.h"
 #include "QRMName.h"
 #include "QRMOwnedList.h"
+#include "QRMSeldom.h"
 #include "QRMRevisionHistory.h"
 #include "QRMSupportedOperatingSystems.h"
 #include "QRMSupportedSystems.h"
@@ -134,28 +135,21 @@ private:
     QRMOwnedList<QRMDevice> mSupportedDevices;
     QRMSupportedSystems mSupportedSystems;
     QRMSupportedOperatingSystems mSupportedOperatingSystems;
-    QRMInstallInstruction mInstallInstruction;
-    QRMRevisionHistory mRevisionHistory;
     QRMImportantInfo mImportantInfo;
     QRMCriticality mCriticality;
-    VELGUID mMSIID;
-    QRMOwnedList<QRMFMPWrapperInformation> mWrappers;
+    // Install instruction, revision history, wrappers, GUIDs, size, flags.
+    struct Extras;
+    QRMSeldom<Extras> mExtras;
     VELString mSchemaVersion;
     VELString mReleaseID;
     VELTime mReleaseDate;
     VELString mVendorVersion;
     VELString mTolvarVersion;
     VELString mPackageType;
-    VELString mXMLGenVersion;
     VELString mPath;
     VELString mPackageID;
     VELTime mDateTime;
     VELString mHashMD5;
-    unsigned long long mSize;
-    VELGUID mIdentifier;
-    VELGUID mPredecessor;
-    bool mRequiresReboot;
-    bool mRequiresContainerPowerCycle;
 };
 
 #endif

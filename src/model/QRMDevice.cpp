@@ -2,6 +2,15 @@
 
 #include "model/QRMStore.h"
 
+struct QRMDevice::Records {
+    QRMOwnedList<QRMPnPInfo> pnpInfo;
+    QRMOwnedList<QRMSubComponent> subComponents;
+    QRMOwnedList<QRMDependency> dependencies;
+    QRMOwnedList<QRMSoftDependency> softDependencies;
+    QRMOwnedList<QRMDeviceApplicability> applicability;
+    QRMRollbackInformation rollbackInformation;
+};
+
 QRMDevice::QRMDevice() : mComponentID(0), mEmbedded(false) {}
 QRMDevice::QRMDevice(const QRMDevice& other) = default;
 QRMDevice& QRMDevice::operator=(const QRMDevice& other) = default;
@@ -16,60 +25,60 @@ QRMKitReturnCode QRMDevice::SetComponentID(const unsigned long long& componentID
 }
 bool QRMDevice::IsEmbedded() const { return mEmbedded; }
 QRMKitReturnCode QRMDevice::SetEmbedded(bool embedded) { return qrm::Store(mEmbedded, embedded); }
-QRMRollbackInformation QRMDevice::GetRollbackInformation() const { return mRollbackInformation; }
+QRMRollbackInformation QRMDevice::GetRollbackInformation() const { return mRecords.Get().rollbackInformation; }
 QRMKitReturnCode QRMDevice::SetRollbackInformation(QRMRollbackInformation& rollbackInformation)
 {
-    return qrm::Store(mRollbackInformation, rollbackInformation);
+    return qrm::Store(mRecords.Change().rollbackInformation, rollbackInformation);
 }
 
 void QRMDevice::GetPCIInfo(std::vector<QRMPCIInfo*>& out) const { mPCIInfo.AppendPointersTo(out); }
-void QRMDevice::GetPnPInfo(std::vector<QRMPnPInfo>& out) const { mPnPInfo.AppendCopiesTo(out); }
-void QRMDevice::GetSubComponents(std::vector<QRMSubComponent>& out) const { mSubComponents.AppendCopiesTo(out); }
-void QRMDevice::GetDependencies(std::vector<QRMDependency>& out) const { mDependencies.AppendCopiesTo(out); }
+void QRMDevice::GetPnPInfo(std::vector<QRMPnPInfo>& out) const { mRecords.Get().pnpInfo.AppendCopiesTo(out); }
+void QRMDevice::GetSubComponents(std::vector<QRMSubComponent>& out) const { mRecords.Get().subComponents.AppendCopiesTo(out); }
+void QRMDevice::GetDependencies(std::vector<QRMDependency>& out) const { mRecords.Get().dependencies.AppendCopiesTo(out); }
 void QRMDevice::GetSoftDependencies(std::vector<QRMSoftDependency>& out) const
 {
-    mSoftDependencies.AppendCopiesTo(out);
+    mRecords.Get().softDependencies.AppendCopiesTo(out);
 }
 void QRMDevice::GetApplicability(std::vector<QRMDeviceApplicability>& out) const
 {
-    mApplicability.AppendCopiesTo(out);
+    mRecords.Get().applicability.AppendCopiesTo(out);
 }
 
 QRMKitReturnCode QRMDevice::AddPCIInfo(QRMPCIInfo pciInfo) { return mPCIInfo.AddUnique(std::move(pciInfo)); }
 QRMKitReturnCode QRMDevice::RemovePCIInfo(const QRMPCIInfo& pciInfo) { return mPCIInfo.RemoveClosingUpEqual(pciInfo); }
-QRMKitReturnCode QRMDevice::AddPnPInfo(QRMPnPInfo pnpInfo) { return mPnPInfo.AddUnique(std::move(pnpInfo)); }
-QRMKitReturnCode QRMDevice::RemovePnPInfo(const QRMPnPInfo& pnpInfo) { return mPnPInfo.RemoveClosingUpEqual(pnpInfo); }
+QRMKitReturnCode QRMDevice::AddPnPInfo(QRMPnPInfo pnpInfo) { return mRecords.Change().pnpInfo.AddUnique(std::move(pnpInfo)); }
+QRMKitReturnCode QRMDevice::RemovePnPInfo(const QRMPnPInfo& pnpInfo) { return mRecords.Change().pnpInfo.RemoveClosingUpEqual(pnpInfo); }
 QRMKitReturnCode QRMDevice::AddSubComponent(QRMSubComponent& subComponent)
 {
-    return mSubComponents.AddUnique(subComponent);
+    return mRecords.Change().subComponents.AddUnique(subComponent);
 }
 QRMKitReturnCode QRMDevice::RemoveSubComponent(QRMSubComponent& subComponent)
 {
-    return mSubComponents.RemoveClosingUpEqual(subComponent);
+    return mRecords.Change().subComponents.RemoveClosingUpEqual(subComponent);
 }
 QRMKitReturnCode QRMDevice::AddDependency(QRMDependency& dependency)
 {
-    return mDependencies.AddUnique(dependency);
+    return mRecords.Change().dependencies.AddUnique(dependency);
 }
 QRMKitReturnCode QRMDevice::RemoveDependency(QRMDependency& dependency)
 {
-    return mDependencies.RemoveClosingUpEqual(dependency);
+    return mRecords.Change().dependencies.RemoveClosingUpEqual(dependency);
 }
 QRMKitReturnCode QRMDevice::AddSoftDependency(QRMSoftDependency& softDependency)
 {
-    return mSoftDependencies.AddUnique(softDependency);
+    return mRecords.Change().softDependencies.AddUnique(softDependency);
 }
 QRMKitReturnCode QRMDevice::RemoveSoftDependency(QRMSoftDependency& softDependency)
 {
-    return mSoftDependencies.RemoveClosingUpEqual(softDependency);
+    return mRecords.Change().softDependencies.RemoveClosingUpEqual(softDependency);
 }
 QRMKitReturnCode QRMDevice::AddApplicability(QRMDeviceApplicability& applicability)
 {
-    return mApplicability.AddUnique(applicability);
+    return mRecords.Change().applicability.AddUnique(applicability);
 }
 QRMKitReturnCode QRMDevice::RemoveApplicability(QRMDeviceApplicability& applicability)
 {
-    return mApplicability.RemoveClosingUpEqual(applicability);
+    return mRecords.Change().applicability.RemoveClosingUpEqual(applicability);
 }
 
 bool QRMDevice::HasPCI(const QRMPCIInfo& pciInfo) const
@@ -79,18 +88,18 @@ bool QRMDevice::HasPCI(const QRMPCIInfo& pciInfo) const
 
 bool QRMDevice::HasPnP(const QRMPnPInfo& pnpInfo) const
 {
-    return mPnPInfo.Contains(pnpInfo);
+    return mRecords.Get().pnpInfo.Contains(pnpInfo);
 }
 
 bool QRMDevice::operator==(const QRMDevice& other) const
 {
     return mComponentID == other.mComponentID && mEmbedded == other.mEmbedded &&
-           mRollbackInformation == other.mRollbackInformation &&
-           mPCIInfo.AllPairsEqual(other.mPCIInfo) && mPnPInfo.AllPairsEqual(other.mPnPInfo) &&
-           HasAllPairsEqualTexts(other) && mSubComponents.AllPairsEqual(other.mSubComponents) &&
-           mDependencies.AllPairsEqual(other.mDependencies) &&
-           mSoftDependencies.AllPairsEqual(other.mSoftDependencies) &&
-           mApplicability.AllPairsEqual(other.mApplicability);
+           mRecords.Get().rollbackInformation == other.mRecords.Get().rollbackInformation &&
+           mPCIInfo.AllPairsEqual(other.mPCIInfo) && mRecords.Get().pnpInfo.AllPairsEqual(other.mRecords.Get().pnpInfo) &&
+           HasAllPairsEqualTexts(other) && mRecords.Get().subComponents.AllPairsEqual(other.mRecords.Get().subComponents) &&
+           mRecords.Get().dependencies.AllPairsEqual(other.mRecords.Get().dependencies) &&
+           mRecords.Get().softDependencies.AllPairsEqual(other.mRecords.Get().softDependencies) &&
+           mRecords.Get().applicability.AllPairsEqual(other.mRecords.Get().applicability);
 }
 
 bool QRMDevice::operator!=(const QRMDevice& other) const { return !(*this == other); }

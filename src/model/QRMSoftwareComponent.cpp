@@ -59,10 +59,20 @@ bool QRMFMPWrapperInformation::operator!=(const QRMFMPWrapperInformation& other)
 
 // ---- QRMSoftwareComponent
 
-QRMSoftwareComponent::QRMSoftwareComponent()
-    : mSize(0), mRequiresReboot(false), mRequiresContainerPowerCycle(false)
-{
-}
+struct QRMSoftwareComponent::Extras {
+    QRMInstallInstruction installInstruction;
+    QRMRevisionHistory revisionHistory;
+    VELGUID msiID;
+    QRMOwnedList<QRMFMPWrapperInformation> wrappers;
+    VELString xmlGenVersion;
+    unsigned long long size = 0;
+    VELGUID identifier;
+    VELGUID predecessor;
+    bool requiresReboot = false;
+    bool requiresContainerPowerCycle = false;
+};
+
+QRMSoftwareComponent::QRMSoftwareComponent() = default;
 QRMSoftwareComponent::QRMSoftwareComponent(const QRMSoftwareComponent& other) = default;
 QRMSoftwareComponent& QRMSoftwareComponent::operator=(const QRMSoftwareComponent& other) = default;
 QRMSoftwareComponent::QRMSoftwareComponent(QRMSoftwareComponent&& other) = default;
@@ -96,15 +106,15 @@ QRMKitReturnCode QRMSoftwareComponent::SetSupportedOperatingSystems(QRMSupported
 {
     return qrm::Store(mSupportedOperatingSystems, std::move(systems));
 }
-QRMInstallInstruction QRMSoftwareComponent::GetInstallInstruction() const { return mInstallInstruction; }
+QRMInstallInstruction QRMSoftwareComponent::GetInstallInstruction() const { return mExtras.Get().installInstruction; }
 QRMKitReturnCode QRMSoftwareComponent::SetInstallInstruction(QRMInstallInstruction instruction)
 {
-    return qrm::Store(mInstallInstruction, std::move(instruction));
+    return qrm::Store(mExtras.Change().installInstruction, std::move(instruction));
 }
-QRMRevisionHistory QRMSoftwareComponent::GetRevisionHistory() const { return mRevisionHistory; }
+QRMRevisionHistory QRMSoftwareComponent::GetRevisionHistory() const { return mExtras.Get().revisionHistory; }
 QRMKitReturnCode QRMSoftwareComponent::SetRevisionHistory(QRMRevisionHistory history)
 {
-    return qrm::Store(mRevisionHistory, std::move(history));
+    return qrm::Store(mExtras.Change().revisionHistory, std::move(history));
 }
 QRMImportantInfo QRMSoftwareComponent::GetImportantInfo() const { return mImportantInfo; }
 QRMKitReturnCode QRMSoftwareComponent::SetImportantInfo(QRMImportantInfo info)
@@ -116,8 +126,8 @@ QRMKitReturnCode QRMSoftwareComponent::SetCriticality(QRMCriticality criticality
 {
     return qrm::Store(mCriticality, std::move(criticality));
 }
-VELGUID QRMSoftwareComponent::GetMSIID() const { return mMSIID; }
-QRMKitReturnCode QRMSoftwareComponent::SetMSIID(VELGUID& id) { return qrm::Store(mMSIID, id); }
+VELGUID QRMSoftwareComponent::GetMSIID() const { return mExtras.Get().msiID; }
+QRMKitReturnCode QRMSoftwareComponent::SetMSIID(VELGUID& id) { return qrm::Store(mExtras.Change().msiID, id); }
 VELString QRMSoftwareComponent::GetSchemaVersion() const { return mSchemaVersion; }
 QRMKitReturnCode QRMSoftwareComponent::SetSchemaVersion(VELString value) { return qrm::Store(mSchemaVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetReleaseID() const { return mReleaseID; }
@@ -130,8 +140,8 @@ VELString QRMSoftwareComponent::GetTolvarVersion() const { return mTolvarVersion
 QRMKitReturnCode QRMSoftwareComponent::SetTolvarVersion(VELString value) { return qrm::Store(mTolvarVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetPackageType() const { return mPackageType; }
 QRMKitReturnCode QRMSoftwareComponent::SetPackageType(VELString value) { return qrm::Store(mPackageType, std::move(value)); }
-VELString QRMSoftwareComponent::GetXMLGenVersion() const { return mXMLGenVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetXMLGenVersion(VELString value) { return qrm::Store(mXMLGenVersion, std::move(value)); }
+VELString QRMSoftwareComponent::GetXMLGenVersion() const { return mExtras.Get().xmlGenVersion; }
+QRMKitReturnCode QRMSoftwareComponent::SetXMLGenVersion(VELString value) { return qrm::Store(mExtras.Change().xmlGenVersion, std::move(value)); }
 VELString QRMSoftwareComponent::GetPath() const { return mPath; }
 std::u16string_view QRMSoftwareComponent::GetPathView() const { return mPath.GetUTF16View(); }
 QRMKitReturnCode QRMSoftwareComponent::SetPath(VELString value) { return qrm::Store(mPath, std::move(value)); }
@@ -141,18 +151,18 @@ VELTime QRMSoftwareComponent::GetDateTime() const { return mDateTime; }
 QRMKitReturnCode QRMSoftwareComponent::SetDateTime(const VELTime& value) { return qrm::Store(mDateTime, value); }
 VELString QRMSoftwareComponent::GetMD5Hash() const { return mHashMD5; }
 QRMKitReturnCode QRMSoftwareComponent::SetMD5Hash(VELString value) { return qrm::Store(mHashMD5, std::move(value)); }
-unsigned long long QRMSoftwareComponent::GetSize() const { return mSize; }
-QRMKitReturnCode QRMSoftwareComponent::SetSize(unsigned long long value) { return qrm::Store(mSize, value); }
-VELGUID QRMSoftwareComponent::GetIdentifier() const { return mIdentifier; }
-QRMKitReturnCode QRMSoftwareComponent::SetIdentifier(VELGUID& id) { return qrm::Store(mIdentifier, id); }
-VELGUID QRMSoftwareComponent::GetPredecessor() const { return mPredecessor; }
-QRMKitReturnCode QRMSoftwareComponent::SetPredecessor(VELGUID& id) { return qrm::Store(mPredecessor, id); }
-bool QRMSoftwareComponent::RequiresReboot() const { return mRequiresReboot; }
-QRMKitReturnCode QRMSoftwareComponent::SetRequiresReboot(bool value) { return qrm::Store(mRequiresReboot, value); }
-bool QRMSoftwareComponent::RequiresContainerPowerCycle() const { return mRequiresContainerPowerCycle; }
+unsigned long long QRMSoftwareComponent::GetSize() const { return mExtras.Get().size; }
+QRMKitReturnCode QRMSoftwareComponent::SetSize(unsigned long long value) { return qrm::Store(mExtras.Change().size, value); }
+VELGUID QRMSoftwareComponent::GetIdentifier() const { return mExtras.Get().identifier; }
+QRMKitReturnCode QRMSoftwareComponent::SetIdentifier(VELGUID& id) { return qrm::Store(mExtras.Change().identifier, id); }
+VELGUID QRMSoftwareComponent::GetPredecessor() const { return mExtras.Get().predecessor; }
+QRMKitReturnCode QRMSoftwareComponent::SetPredecessor(VELGUID& id) { return qrm::Store(mExtras.Change().predecessor, id); }
+bool QRMSoftwareComponent::RequiresReboot() const { return mExtras.Get().requiresReboot; }
+QRMKitReturnCode QRMSoftwareComponent::SetRequiresReboot(bool value) { return qrm::Store(mExtras.Change().requiresReboot, value); }
+bool QRMSoftwareComponent::RequiresContainerPowerCycle() const { return mExtras.Get().requiresContainerPowerCycle; }
 QRMKitReturnCode QRMSoftwareComponent::SetRequiresContainerPowerCycle(bool value)
 {
-    return qrm::Store(mRequiresContainerPowerCycle, value);
+    return qrm::Store(mExtras.Change().requiresContainerPowerCycle, value);
 }
 
 void QRMSoftwareComponent::GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const
@@ -193,39 +203,41 @@ QRMKitReturnCode QRMSoftwareComponent::RemoveDeviceSupport(QRMDevice& device)
 
 void QRMSoftwareComponent::GetWrappers(std::vector<QRMFMPWrapperInformation>& out) const
 {
-    mWrappers.AppendCopiesTo(out);
+    mExtras.Get().wrappers.AppendCopiesTo(out);
 }
 
 QRMKitReturnCode QRMSoftwareComponent::AddWrapper(QRMFMPWrapperInformation& wrapper)
 {
-    return mWrappers.AddUnique(wrapper);
+    return mExtras.Change().wrappers.AddUnique(wrapper);
 }
 
 QRMKitReturnCode QRMSoftwareComponent::RemoveWrapper(QRMFMPWrapperInformation& wrapper)
 {
-    return mWrappers.RemoveFirst(wrapper);
+    return mExtras.Change().wrappers.RemoveFirst(wrapper);
 }
 
 bool QRMSoftwareComponent::operator==(const QRMSoftwareComponent& other) const
 {
+    const Extras& mine = mExtras.Get();
+    const Extras& theirs = other.mExtras.Get();
     return mName == other.mName && mComponentType == other.mComponentType &&
            mDescription == other.mDescription && mCategory == other.mCategory &&
            mLUCategory == other.mLUCategory &&
            mSupportedDevices.AllPairsEqual(other.mSupportedDevices) &&
            mSupportedSystems == other.mSupportedSystems &&
            mSupportedOperatingSystems == other.mSupportedOperatingSystems &&
-           mInstallInstruction == other.mInstallInstruction &&
-           mRevisionHistory == other.mRevisionHistory && mImportantInfo == other.mImportantInfo &&
-           mCriticality == other.mCriticality && !(mMSIID != other.mMSIID) &&
-           mWrappers.AllPairsEqual(other.mWrappers) && mSchemaVersion == other.mSchemaVersion &&
+           mine.installInstruction == theirs.installInstruction &&
+           mine.revisionHistory == theirs.revisionHistory && mImportantInfo == other.mImportantInfo &&
+           mCriticality == other.mCriticality && !(mine.msiID != theirs.msiID) &&
+           mine.wrappers.AllPairsEqual(theirs.wrappers) && mSchemaVersion == other.mSchemaVersion &&
            mReleaseID == other.mReleaseID && !(mReleaseDate != other.mReleaseDate) &&
            mVendorVersion == other.mVendorVersion && mTolvarVersion == other.mTolvarVersion &&
-           mPackageType == other.mPackageType && mXMLGenVersion == other.mXMLGenVersion &&
+           mPackageType == other.mPackageType && mine.xmlGenVersion == theirs.xmlGenVersion &&
            mPath == other.mPath && mPackageID == other.mPackageID &&
-           !(mDateTime != other.mDateTime) && mHashMD5 == other.mHashMD5 && mSize == other.mSize &&
-           !(mIdentifier != other.mIdentifier) && !(mPredecessor != other.mPredecessor) &&
-           mRequiresReboot == other.mRequiresReboot &&
-           mRequiresContainerPowerCycle == other.mRequiresContainerPowerCycle;
+           !(mDateTime != other.mDateTime) && mHashMD5 == other.mHashMD5 && mine.size == theirs.size &&
+           !(mine.identifier != theirs.identifier) && !(mine.predecessor != theirs.predecessor) &&
+           mine.requiresReboot == theirs.requiresReboot &&
+           mine.requiresContainerPowerCycle == theirs.requiresContainerPowerCycle;
 }
 
 bool QRMSoftwareComponent::operator!=(const QRMSoftwareComponent& other) const { return !(*this == other); }
