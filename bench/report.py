@@ -33,6 +33,20 @@ def main_report(path):
         print("%-24s %12.2f %14s" % (name, time, ratio))
 
 
+def memory_report(path):
+    with open(path) as source:
+        runs = [json.loads(line) for line in source if line.strip()]
+    def median(key):
+        values = sorted(run[key] for run in runs)
+        return values[len(values) // 2]
+    size = runs[0]["file_bytes"]
+    peak = median("peak_resident_bytes")
+    store = median("store_bytes")
+    print("%-28s %10.1f MB" % ("catalog file", size / 1e6))
+    print("%-28s %10.1f MB %6.2f x file" % ("peak resident while parsing", peak / 1e6, peak / size))
+    print("%-28s %10.1f MB %6.2f x file" % ("store after Parse", store / 1e6, store / size))
+
+
 def scaling_report(paths):
     print("%12s %10s %14s %22s" % ("components", "devices", "Parse ms", "ApplicableUpdates ms"))
     base = None
@@ -49,5 +63,7 @@ def scaling_report(paths):
 if __name__ == "__main__":
     if sys.argv[1] == "main":
         main_report(sys.argv[2])
+    elif sys.argv[1] == "memory":
+        memory_report(sys.argv[2])
     else:
         scaling_report(sys.argv[2:])
