@@ -6,6 +6,7 @@
 #include "api/QRMManifest.h"
 
 #include <algorithm>
+#include <exception>
 #include <string_view>
 #include <unordered_map>
 
@@ -180,7 +181,7 @@ const Candidates* Find(const std::unordered_map<unsigned long long, Candidates>&
 QRMKitReturnCode QRMKitAPI::GetApplicableUpdates(std::map<QRMIApplication*, QRMSoftwareComponent*>& updates,
                                                  QRMOSArchitectureEnum /*osArchitecture*/,
                                                  QRMBundleTypeEnum bundleType) const
-{
+try {
     if (!mCatalogManifest.IsParsed() || !mInventory.IsParsed()) {
         return QRM_KIT_FAILURE;
     }
@@ -231,4 +232,7 @@ QRMKitReturnCode QRMKitAPI::GetApplicableUpdates(std::map<QRMIApplication*, QRMS
         }
     }
     return QRM_KIT_SUCCESS;
+} catch (const std::exception&) {
+    // Out of memory: the call fails; what was stored before stays.
+    return QRM_KIT_FAILURE;
 }

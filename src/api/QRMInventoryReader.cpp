@@ -9,6 +9,7 @@
 #include "api/QRMIInventory.h"
 #include "api/QRMXMLRead.h"
 
+#include <exception>
 #include <memory>
 
 using qrm::Failed;
@@ -189,7 +190,7 @@ QRMKitReturnCode ReadDevice(const VELXMLNode& node, QRMComponentTypeValueEnum& c
 }  // namespace
 
 QRMKitReturnCode QRMKitAPI::ParseInventory(const VELFile& file)
-{
+try {
     std::unique_ptr<VELXMLDocument> document;
     VELXMLNode* root = nullptr;
     QRMKitReturnCode opened = qrm::OpenDocument(file, document, root);
@@ -243,6 +244,9 @@ QRMKitReturnCode QRMKitAPI::ParseInventory(const VELFile& file)
     }
     mInventory.SetParsed();
     return QRM_KIT_SUCCESS;
+} catch (const std::exception&) {
+    // Out of memory: the call fails; what was stored before stays.
+    return QRM_KIT_FAILURE;
 }
 
 QRMKitReturnCode QRMKitAPI::GetInventory(std::vector<QRMIDevice*>& devices) const

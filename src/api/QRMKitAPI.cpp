@@ -4,6 +4,7 @@
 #include "api/QRMManifest.h"
 #include "api/QRMXMLRead.h"
 
+#include <exception>
 #include <iostream>
 #include <memory>
 #include <mutex>
@@ -77,7 +78,7 @@ bool QRMKitAPI::IsInitialized() const { return mInitialized; }
 QRMKitReturnCode QRMKitAPI::Parse() { return QRM_KIT_SUCCESS; }
 
 QRMKitReturnCode QRMKitAPI::Parse(const VELFile& file)
-{
+try {
     mCatalogManifest.Clear();
     std::unique_ptr<VELXMLDocument> document;
     VELXMLNode* root = nullptr;
@@ -126,6 +127,9 @@ QRMKitReturnCode QRMKitAPI::Parse(const VELFile& file)
     }
     document.reset();
     return mCatalogManifest.SetParsed();
+} catch (const std::exception&) {
+    // Out of memory: the call fails; what was stored before stays.
+    return QRM_KIT_FAILURE;
 }
 
 VELString QRMKitAPI::GetBaseLocation() const

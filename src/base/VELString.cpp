@@ -89,8 +89,6 @@ std::string EncodeUTF8(std::u16string_view units)
 
 }  // namespace
 
-static_assert(sizeof(char16_t*) == 8 || sizeof(char16_t*) == 4, "unusual pointer size");
-
 VELString::VELString(const char* text, VELCharEncodingType /*encoding*/) : VELString()
 {
     if (text != nullptr) {
@@ -103,7 +101,6 @@ VELString::VELString(const std::u16string& units) : VELString() { Assign(units.d
 VELString::VELString(std::u16string&& units) : VELString() { Assign(units.data(), units.size()); }
 
 VELString::VELString(const VELString& other) : VELString() { Assign(other.Data(), other.Size()); }
-
 
 VELString& VELString::operator=(const VELString& other)
 {
