@@ -6,8 +6,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <utility>
 #include <vector>
+
+#include <sys/resource.h>
 
 TempDir::TempDir()
 {
@@ -70,6 +73,94 @@ std::string StdoutCapture::Text()
         mDone = true;
     }
     return mText;
+}
+
+std::size_t PeakResidentBytes()
+{
+    struct rusage usage;
+    if (::getrusage(RUSAGE_SELF, &usage) != 0) {
+        ADD_FAILURE() << "getrusage failed";
+        return 0;
+    }
+    // Linux reports kilobytes.
+    return static_cast<std::size_t>(usage.ru_maxrss) * 1024;
+}
+
+std::size_t MemoryAllowance(std::size_t inputBytes, std::size_t factor)
+{
+    const std::size_t megabyte = 1024 * 1024;
+#if defined(__SANITIZE_ADDRESS__)
+    // Freed blocks stay in quarantine (256 MB by default), and every block
+    // carries redzones and shadow memory.
+    return 512 * megabyte + 3 * factor * inputBytes;
+#else
+    return 64 * megabyte + factor * inputBytes;
+#endif
+}
+
+void ExpectNoCatalog()
+{
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    EXPECT_FALSE(api->IsCatalogParsed());
+    std::vector<QRMSoftwareComponent*> components;
+    api->GetSoftwareComponents(components);
+    EXPECT_EQ(0u, components.size());
+    std::vector<QRMSoftwareBundle*> bundles;
+    api->GetSoftwareBundles(bundles);
+    EXPECT_EQ(0u, bundles.size());
+    std::vector<QRMInventoryComponent> collectors;
+    api->GetInventoryComponents(collectors);
+    EXPECT_EQ(0u, collectors.size());
+    EXPECT_TRUE(api->GetBaseLocation().IsEmpty());
+    EXPECT_TRUE(api->GetCatalogReleaseID().IsEmpty());
+    EXPECT_TRUE(api->GetCatalogVersion().IsEmpty());
+    EXPECT_EQ(nullptr, api->GetApplicableBundle(QRM_BUNDLE_BTW64));
+    EXPECT_EQ(0u, api->GetGreatestBundleNumber(QRM_BUNDLE_BTW64));
+    {
+        StdoutCapture capture;
+        EXPECT_TRUE(api->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")).IsEmpty());
+        EXPECT_EQ(nullptr, api->GetInventoryComponent(QRM_OS_ARCH_X64, VELString("W22")));
+        EXPECT_EQ("Catalog not initialized\nCatalog not initialized\n", capture.Text());
+    }
+    QRMIApplication application;
+    std::map<QRMIApplication*, QRMSoftwareComponent*> updates{{&application, nullptr}};
+    EXPECT_EQ(QRM_KIT_FAILURE, api->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
+    ASSERT_EQ(1u, updates.size());
+    EXPECT_EQ(nullptr, updates.begin()->second);
+}
+
+void ExpectNoInventory()
+{
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    EXPECT_FALSE(api->IsInventoryParsed());
+    std::vector<QRMIDevice*> devices{nullptr};
+    EXPECT_EQ(QRM_KIT_FAILURE, api->GetInventory(devices));
+    EXPECT_EQ(1u, devices.size());
+    EXPECT_EQ(0u, api->GetSystemIDFromInventory());
+    std::vector<QRMISystem> systems;
+    api->GetInventorySystems(systems);
+    EXPECT_EQ(0u, systems.size());
+    std::vector<QRMOperatingSystem> oses;
+    api->GetInventoryOperatingSystems(oses);
+    EXPECT_EQ(0u, oses.size());
+    std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
+    EXPECT_EQ(QRM_KIT_FAILURE, api->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
+    EXPECT_TRUE(updates.empty());
+}
+
+void ExpectExampleUpdates()
+{
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    const std::string examples = QRMKIT_EXAMPLES_DIR;
+    ASSERT_EQ(QRM_KIT_SUCCESS, api->Parse(VELFile(examples + "/catalog.xml")));
+    std::vector<QRMSoftwareComponent*> components;
+    api->GetSoftwareComponents(components);
+    EXPECT_EQ(48u, components.size());
+    ASSERT_EQ(QRM_KIT_SUCCESS, api->ParseInventory(VELFile(examples + "/inventory.xml")));
+    EXPECT_EQ(0x0A6Bu, api->GetSystemIDFromInventory());
+    std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
+    ASSERT_EQ(QRM_KIT_SUCCESS, api->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
+    EXPECT_EQ(10u, updates.size());
 }
 
 namespace {

@@ -5,6 +5,8 @@
 
 #include <QRMKit.h>
 
+#include <cstddef>
+#include <memory>
 #include <string>
 
 // A fresh directory under the system's temporary directory, removed with
@@ -42,6 +44,27 @@ private:
     std::string mText;
 };
 
+// Peak resident memory of this process so far (getrusage), in bytes.
+std::size_t PeakResidentBytes();
+
+// How much a test that reads `inputBytes` of input may raise the process's
+// peak memory: a fixed allowance plus `factor` times the input, both
+// loosened in an AddressSanitizer build (shadow memory, quarantine).
+std::size_t MemoryAllowance(std::size_t inputBytes, std::size_t factor);
+
+// What every query reports while no catalog is parsed: an empty store that
+// is not parsed, no base location, no bundle, no updates (the caller's map
+// left as it was), and "Catalog not initialized" from the two queries of
+// the inventory collector.
+void ExpectNoCatalog();
+// What the inventory queries report in a process that has not read an
+// inventory successfully.
+void ExpectNoInventory();
+// Reads the example catalog and inventory and checks the ten updates they
+// give for Windows x64 bundles: the stores work. Call it once per process,
+// with an inventory store that holds nothing else.
+void ExpectExampleUpdates();
+
 // Catalog fixtures. Each entry carries every child its reader requires, so
 // that it is read whole; `leaveOut` names one required child that is left
 // out, `twice` one that is written two times.
@@ -68,6 +91,11 @@ public:
     static int MakeEqualLength(VELString& first, VELString& second)
     {
         return QRMKitAPI::Instance()->MakeEqualLength(first, second);
+    }
+    // A second object made with the private copy constructor.
+    static std::unique_ptr<QRMKitAPI> Copy(const QRMKitAPI& api)
+    {
+        return std::unique_ptr<QRMKitAPI>(new QRMKitAPI(api));
     }
 };
 

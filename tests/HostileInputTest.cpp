@@ -1,0 +1,941 @@
+// Files that are not what a caller promised: empty, not a regular file,
+// missing, binary, badly encoded, with NUL bytes, with entity references
+// that must never be expanded or fetched. Each read must give its exact
+// result, leave the stores in a state every query can answer from, and keep
+// the process's memory within a bound proportional to the input.
+#include "TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <sys/stat.h>
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace {
+
+QRMKitAPI* API() { return QRMKitAPI::Instance(); }
+
+const std::string kExampleCatalog = std::string(QRMKIT_EXAMPLES_DIR) + "/catalog.xml";
+const std::string kExampleInventory = std::string(QRMKIT_EXAMPLES_DIR) + "/inventory.xml";
+
+// The texts a small catalog is made from; each test replaces some of them.
+struct CatalogTexts {
+    std::string declaration = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
+    std::string doctype;
+    std::string baseLocation = "updates.example.net";
+    std::string releaseID = "R1";
+    std::string version = "1.0";
+    std::string bundleName = "Bundle";
+    std::string componentName = "Component";
+    std::string categoryText = "BIOS";
+    std::string vendorVersion = "2.4.1";
+    std::string componentPath = "dir/PKG.EXE";
+    std::string collectorPath = "collectors/w22.exe";
+};
+
+// One bundle for system 0A6B listing PKG.EXE, one BIOS component for
+// component id 159 whose file is PKG.EXE, one collector for W22.
+std::string Catalog(const CatalogTexts& t)
+{
+    return t.declaration + t.doctype + "<Manifest baseLocation=\"" + t.baseLocation + "\" releaseID=\"" +
+           t.releaseID + "\" version=\"" + t.version +
+           "\" dateTime=\"1700000000\">\n"
+           "<SoftwareBundle bundleID=\"B.00007\" bundleType=\"BTW64\" path=\"b.exe\">"
+           "<Name><Display lang=\"en\">" +
+           t.bundleName +
+           "</Display></Name><ComponentType value=\"SBDL\"/>"
+           "<TargetSystems><Brand key=\"1\" prefix=\"P\"><Model systemID=\"0A6B\"/></Brand></TargetSystems>"
+           "<Contents><Package path=\"PKG.EXE\" packageID=\"P1\"/></Contents></SoftwareBundle>\n"
+           "<SoftwareComponent path=\"" +
+           t.componentPath + "\" vendorVersion=\"" + t.vendorVersion +
+           "\" packageID=\"P1\"><Name><Display lang=\"en\">" + t.componentName +
+           "</Display></Name><ComponentType value=\"BIOS\"/>"
+           "<Category value=\"BI\"><Display lang=\"en\">" +
+           t.categoryText +
+           "</Display></Category>"
+           "<SupportedDevices><Device componentID=\"159\"/></SupportedDevices></SoftwareComponent>\n"
+           "<InventoryComponent osCode=\"W22\" path=\"" +
+           t.collectorPath + "\"/>\n</Manifest>\n";
+}
+
+struct InventoryTexts {
+    std::string declaration = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
+    std::string doctype;
+    std::string lang = "en";
+    std::string schemaVersion = "1.0";
+    std::string osVendor = "Example";
+    std::string osDisplay = "Server OS";
+    std::string systemDisplay = "S740";
+    std::string deviceDisplay = "BIOS";
+    std::string applicationVersion = "2.3.9";
+    std::string applicationDisplay = "BIOS";
+};
+
+// One operating system, system 0A6B, and device 159 with one BIOS.
+std::string Inventory(const InventoryTexts& t)
+{
+    return t.declaration + t.doctype + "<SVMInventory lang=\"" + t.lang + "\" schemaVersion=\"" +
+           t.schemaVersion +
+           "\" timeStamp=\"1700000000\">\n"
+           "<OperatingSystem osArch=\"x64\" osCode=\"W22\" osVendor=\"" +
+           t.osVendor + "\"><Display lang=\"en\">" + t.osDisplay +
+           "</Display></OperatingSystem>\n"
+           "<System systemID=\"0A6B\" display=\"" +
+           t.systemDisplay +
+           "\"/>\n"
+           "<Device componentID=\"159\" display=\"" +
+           t.deviceDisplay + "\"><Application componentType=\"BIOS\" version=\"" + t.applicationVersion +
+           "\" display=\"" + t.applicationDisplay + "\"/></Device>\n</SVMInventory>\n";
+}
+
+std::vector<QRMSoftwareComponent*> Components()
+{
+    std::vector<QRMSoftwareComponent*> components;
+    API()->GetSoftwareComponents(components);
+    return components;
+}
+
+std::vector<QRMSoftwareBundle*> Bundles()
+{
+    std::vector<QRMSoftwareBundle*> bundles;
+    API()->GetSoftwareBundles(bundles);
+    return bundles;
+}
+
+std::vector<QRMIDevice*> Devices()
+{
+    std::vector<QRMIDevice*> devices;
+    API()->GetInventory(devices);
+    return devices;
+}
+
+std::vector<QRMIApplication*> Applications(const QRMIDevice& device)
+{
+    std::vector<QRMIApplication*> applications;
+    device.GetApplications(applications);
+    return applications;
+}
+
+template <class Holder>
+std::string DisplayTexts(const Holder& holder)
+{
+    std::vector<QRMDisplay> displays;
+    holder.GetDisplayValues(displays);
+    std::string text;
+    for (const QRMDisplay& display : displays) {
+        text += display.GetLanguage().GetUTF8String() + "=" + display.GetValue().GetUTF8String() + "\n";
+    }
+    return text;
+}
+
+std::string FirstDisplayText(const QRMName& name)
+{
+    std::vector<QRMDisplay> displays;
+    name.GetDisplayValues(displays);
+    return displays.empty() ? std::string("<none>") : displays.front().GetValue().GetUTF8String();
+}
+
+// Every text the two stores hand out, one after the other.
+std::string EveryStoredText()
+{
+    std::string all;
+    auto add = [&all](const VELString& text) { all += text.GetUTF8String() + "\n"; };
+    add(API()->GetBaseLocation());
+    add(API()->GetCatalogReleaseID());
+    add(API()->GetCatalogVersion());
+    for (const QRMSoftwareBundle* bundle : Bundles()) {
+        all += DisplayTexts(bundle->GetName());
+        add(bundle->GetBundleID());
+        add(bundle->GetPath());
+        add(bundle->GetVendorVersion());
+        add(bundle->GetReleaseID());
+        add(bundle->GetSchemaVersion());
+        std::vector<QRMBundleContent> contents;
+        bundle->GetContents(contents);
+        for (const QRMBundleContent& content : contents) {
+            add(content.GetPath());
+            add(content.GetPackageID());
+        }
+    }
+    for (const QRMSoftwareComponent* component : Components()) {
+        all += DisplayTexts(component->GetName());
+        all += DisplayTexts(component->GetCategory());
+        add(component->GetCategory().GetCode());
+        add(component->GetVendorVersion());
+        add(component->GetPath());
+        add(component->GetPackageID());
+        add(component->GetReleaseID());
+        add(component->GetSchemaVersion());
+    }
+    std::vector<QRMInventoryComponent> collectors;
+    API()->GetInventoryComponents(collectors);
+    for (const QRMInventoryComponent& collector : collectors) {
+        add(collector.GetPath());
+        add(collector.GetOSCode());
+        add(collector.GetVendorVersion());
+        add(collector.GetReleaseID());
+    }
+    std::map<VELString, VELString> categories;
+    API()->GetCategoryValues(categories);
+    for (const auto& category : categories) {
+        add(category.first);
+        add(category.second);
+    }
+    add(API()->GetInventorySchemaVersion());
+    for (const QRMIDevice* device : Devices()) {
+        add(device->GetDisplay());
+        all += DisplayTexts(*device);
+        for (const QRMIApplication* application : Applications(*device)) {
+            add(application->GetVersion());
+            add(application->GetDisplay());
+            add(application->GetSubComponentID());
+            all += DisplayTexts(*application);
+        }
+    }
+    std::vector<QRMISystem> systems;
+    API()->GetInventorySystems(systems);
+    for (const QRMISystem& system : systems) {
+        add(system.GetDisplay());
+        add(system.GetServiceTag());
+        all += DisplayTexts(system);
+    }
+    std::vector<QRMOperatingSystem> oses;
+    API()->GetInventoryOperatingSystems(oses);
+    for (const QRMOperatingSystem& os : oses) {
+        add(os.GetCode());
+        add(os.GetVendor());
+        all += DisplayTexts(os);
+    }
+    return all;
+}
+
+// Reads the catalog text and checks that the one component it holds is
+// chosen for the BIOS of the example inventory.
+void ExpectTheSmallCatalogGivesItsUpdate()
+{
+    ASSERT_TRUE(API()->IsCatalogParsed());
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(kExampleInventory)));
+    std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
+    ASSERT_EQ(1u, updates.size());
+    EXPECT_EQ(Components().front(), updates.begin()->second);
+    EXPECT_EQ(VELString("BIOS"), updates.begin()->first->GetDisplay());
+}
+
+// Reads the inventory text and checks that its one application gets the
+// component of a catalog that lists it.
+void ExpectTheSmallInventoryGetsItsUpdate()
+{
+    ASSERT_TRUE(API()->IsInventoryParsed());
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+    std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
+    ASSERT_EQ(1u, updates.size());
+    EXPECT_EQ(VELString("FOLDER01/BIOS/BIOS_S740_2.4.1.EXE"), updates.begin()->second->GetPath());
+}
+
+// Bytes that are not UTF-8: a stray continuation byte, a byte never used,
+// an overlong NUL, an encoded surrogate, a sequence cut short, a five-byte
+// form, and a code point above U+10FFFF.
+const std::string kInvalidUTF8 =
+    "\x80"
+    "\xFF"
+    "\xC0\x80"
+    "\xED\xA0\x80"
+    "\xE2\x82"
+    "\xF8\x88\x80\x80\x80"
+    "\xF4\x90\x80\x80";
+
+// "a", then one or more U+FFFD, then "z": what a text made of "a", invalid
+// bytes and "z" must read as.
+::testing::AssertionResult IsAReplacedZ(const VELString& text)
+{
+    const std::u16string& units = text.GetUTF16String();
+    if (units.size() < 3 || units.front() != u'a' || units.back() != u'z') {
+        return ::testing::AssertionFailure() << "\"" << text.GetUTF8String() << "\" is not a...z";
+    }
+    for (std::size_t i = 1; i + 1 < units.size(); ++i) {
+        if (units[i] != u'\xFFFD') {
+            return ::testing::AssertionFailure() << "unit " << i << " of \"" << text.GetUTF8String()
+                                                 << "\" is " << static_cast<unsigned>(units[i]);
+        }
+    }
+    return ::testing::AssertionSuccess();
+}
+
+// Deterministic bytes of every value, "<" and NUL included.
+std::string Garbage(std::size_t size, unsigned int seed)
+{
+    std::string bytes(size, '\0');
+    unsigned int state = seed;
+    for (char& byte : bytes) {
+        state = state * 1664525u + 1013904223u;
+        byte = static_cast<char>(state >> 24);
+    }
+    return bytes;
+}
+
+std::string WithByte(std::string text, std::size_t position, char byte)
+{
+    text.insert(position, 1, byte);
+    return text;
+}
+
+// A document type declaration whose entities would grow to 3 * 10^9
+// characters if expanded, and a parameter entity that would define one more.
+const std::string kLaughs =
+    "<!DOCTYPE Root [\n"
+    "  <!ENTITY lol \"lol\">\n"
+    "  <!ENTITY lol1 \"&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;\">\n"
+    "  <!ENTITY lol2 \"&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;\">\n"
+    "  <!ENTITY lol3 \"&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;\">\n"
+    "  <!ENTITY lol4 \"&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;\">\n"
+    "  <!ENTITY lol5 \"&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;\">\n"
+    "  <!ENTITY lol6 \"&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;\">\n"
+    "  <!ENTITY lol7 \"&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;\">\n"
+    "  <!ENTITY lol8 \"&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;\">\n"
+    "  <!ENTITY lol9 \"&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;\">\n"
+    "  <!ENTITY % more \"<!ENTITY boom '&lol9;&lol9;'>\">\n"
+    "  %more;\n"
+    "]>\n";
+
+// One entity of 100,000 characters, to be referenced many times.
+std::string WideEntity()
+{
+    return "<!DOCTYPE Root [\n  <!ENTITY wide \"" + std::string(100000, 'w') + "\">\n]>\n";
+}
+
+std::string Repeat(const std::string& text, std::size_t count)
+{
+    std::string all;
+    all.reserve(text.size() * count);
+    for (std::size_t i = 0; i < count; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+// Entities that name a local file, absolutely and relatively, an external
+// document type and a parameter entity that would pull it in.
+std::string ExternalEntities(const TempDir& dir)
+{
+    return "<!DOCTYPE Root SYSTEM \"file://" + dir.PathOf("secret.dtd") +
+           "\" [\n"
+           "  <!ENTITY file SYSTEM \"file://" +
+           dir.PathOf("secret.txt") +
+           "\">\n"
+           "  <!ENTITY rel SYSTEM \"secret.txt\">\n"
+           "  <!ENTITY pub PUBLIC \"-//Example//Secret//EN\" \"secret.txt\">\n"
+           "  <!ENTITY % remote SYSTEM \"file://" +
+           dir.PathOf("secret.dtd") +
+           "\">\n"
+           "  %remote;\n"
+           "]>\n";
+}
+
+const char* const kSecret = "TOP-SECRET-7d41";
+
+void WriteSecrets(const TempDir& dir)
+{
+    dir.Write("secret.txt", kSecret);
+    dir.Write("secret.dtd", std::string("<!ENTITY leak \"") + kSecret + "\">\n");
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------- catalog
+
+TEST(HostileCatalogFile, EmptyFileFailsAndEmptiesTheStore)
+{
+    TempDir dir;
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+    EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("empty.xml", ""))));
+    ExpectNoCatalog();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, FileOfBlanksOnlyFails)
+{
+    TempDir dir;
+    EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("blank.xml", "  \n\t\r\n  "))));
+    ExpectNoCatalog();
+}
+
+TEST(HostileCatalogFile, DeclarationAndCommentWithoutRootFail)
+{
+    TempDir dir;
+    EXPECT_EQ(QRM_KIT_FAILURE,
+              API()->Parse(VELFile(dir.Write("noroot.xml", "<?xml version=\"1.0\"?>\n<!-- nothing -->\n"))));
+    ExpectNoCatalog();
+}
+
+TEST(HostileCatalogFile, DirectoryIsNotFound)
+{
+    TempDir dir;
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Initialize(VELFile(dir.Path())));
+    EXPECT_FALSE(API()->IsInitialized());
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile(dir.Path())));
+    ExpectNoCatalog();
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile(dir.Path() + "/")));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile("/")));
+    ExpectNoCatalog();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, MissingFileIsNotFound)
+{
+    TempDir dir;
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile(dir.PathOf("absent.xml"))));
+    ExpectNoCatalog();
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile("")));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile(VELString())));
+    // A path that runs through a regular file.
+    std::string file = dir.Write("file.xml", Catalog(CatalogTexts()));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile(file + "/catalog.xml")));
+    // A symbolic link to nothing.
+    ASSERT_EQ(0, ::symlink(dir.PathOf("nowhere.xml").c_str(), dir.PathOf("dangling.xml").c_str()));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile(dir.PathOf("dangling.xml"))));
+    ExpectNoCatalog();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, SpecialFilesAreNotFoundAndNeverRead)
+{
+    TempDir dir;
+    // Opening a pipe without a writer, or reading an endless device, would
+    // block or never end: none of them is a regular file.
+    ASSERT_EQ(0, ::mkfifo(dir.PathOf("pipe.xml").c_str(), 0600));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile(dir.PathOf("pipe.xml"))));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Initialize(VELFile(dir.PathOf("pipe.xml"))));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile("/dev/zero")));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile("/dev/null")));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->Parse(VELFile("/dev/urandom")));
+    ExpectNoCatalog();
+}
+
+TEST(HostileCatalogFile, FileThatHoldsLessThanItsSizeFails)
+{
+    // A kernel attribute file states a size of a whole page and holds a few
+    // bytes: reading stops short of the stated size.
+    const char* const path = "/sys/devices/system/cpu/online";
+    struct stat info;
+    ASSERT_EQ(0, ::stat(path, &info));
+    ASSERT_TRUE(S_ISREG(info.st_mode));
+    ASSERT_EQ(4096, info.st_size);
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+    EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(path)));
+    ExpectNoCatalog();
+    EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(path)));
+    ExpectNoInventory();
+}
+
+TEST(HostileCatalogFile, BinaryGarbageFails)
+{
+    TempDir dir;
+    const std::size_t before = PeakResidentBytes();
+    std::size_t largest = 0;
+    for (unsigned int seed = 1; seed <= 8; ++seed) {
+        std::string bytes = Garbage(std::size_t(1) << (9 + seed), seed);
+        largest = bytes.size();
+        ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("garbage.bin", bytes)))) << "seed " << seed;
+        ExpectNoCatalog();
+    }
+    // Garbage behind a good start, and behind each of the byte-order marks.
+    const std::string noise = Garbage(4096, 99);
+    for (const std::string& start :
+         {std::string("<?xml version=\"1.0\"?>\n<Manifest baseLocation=\"x\">"), std::string("\xEF\xBB\xBF"),
+          std::string("\xFF\xFE"), std::string("\xFE\xFF"), std::string("<")}) {
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("garbage.xml", start + noise))));
+        ExpectNoCatalog();
+    }
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(largest, 64));
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, InvalidUTF8IsReadAsReplacementCharacters)
+{
+    TempDir dir;
+    CatalogTexts texts;
+    const std::string bad = "a" + kInvalidUTF8 + "z";
+    texts.baseLocation = bad;
+    texts.releaseID = bad;
+    texts.componentName = bad;
+    texts.categoryText = bad;
+    texts.vendorVersion = bad;
+    texts.collectorPath = bad;
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("utf8.xml", Catalog(texts)))));
+    EXPECT_TRUE(IsAReplacedZ(API()->GetBaseLocation()));
+    EXPECT_TRUE(IsAReplacedZ(API()->GetCatalogReleaseID()));
+    ASSERT_EQ(1u, Components().size());
+    const QRMSoftwareComponent& component = *Components().front();
+    std::vector<QRMDisplay> names;
+    component.GetName().GetDisplayValues(names);
+    ASSERT_EQ(1u, names.size());
+    EXPECT_TRUE(IsAReplacedZ(names[0].GetValue()));
+    EXPECT_TRUE(IsAReplacedZ(component.GetVendorVersion()));
+    std::map<VELString, VELString> categories;
+    API()->GetCategoryValues(categories);
+    ASSERT_EQ(1u, categories.count(VELString("BI")));
+    EXPECT_TRUE(IsAReplacedZ(categories[VELString("BI")]));
+    std::vector<QRMInventoryComponent> collectors;
+    API()->GetInventoryComponents(collectors);
+    ASSERT_EQ(1u, collectors.size());
+    EXPECT_TRUE(IsAReplacedZ(collectors[0].GetPath()));
+    EXPECT_TRUE(IsAReplacedZ(API()->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")).SubString(
+        static_cast<unsigned int>(API()->GetBaseLocation().GetLength() + 1), 1000)));
+    // A version that is not ASCII has no order.
+    EXPECT_EQ(-2, API()->CompareVersion(component.GetVendorVersion(), VELString("1.0")));
+    EXPECT_EQ(-2, API()->CompareVersion(VELString("1.0"), component.GetVendorVersion()));
+    ExpectTheSmallCatalogGivesItsUpdate();
+}
+
+TEST(HostileCatalogFile, InvalidUTF8InElementNamesLeavesThoseElementsUnread)
+{
+    TempDir dir;
+    std::string xml = Catalog(CatalogTexts());
+    std::string renamed = xml;
+    renamed.replace(renamed.find("<SoftwareComponent "), 19, "<Software\xFF" "Component ");
+    renamed.replace(renamed.find("</SoftwareComponent>"), 20, "</Software\xFF" "Component>");
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("names.xml", renamed))));
+    EXPECT_EQ(0u, Components().size());
+    EXPECT_EQ(1u, Bundles().size());
+    // A required child whose name is not UTF-8 is a missing child.
+    std::string unnamed = xml;
+    unnamed.replace(unnamed.find("<Category value"), 9, "<Cat\xC3gory");
+    unnamed.replace(unnamed.find("</Category>"), 11, "</Cat\xC3gory>");
+    EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, API()->Parse(VELFile(dir.Write("unnamed.xml", unnamed))));
+    EXPECT_FALSE(API()->IsCatalogParsed());
+    EXPECT_EQ(1u, Bundles().size());
+    EXPECT_EQ(0u, Components().size());
+}
+
+TEST(HostileCatalogFile, UTF16WithADanglingByteAfterTheDocumentIsReadWhole)
+{
+    TempDir dir;
+    CatalogTexts texts;
+    texts.declaration = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n";
+    texts.baseLocation = "caf\xC3\xA9";
+    for (const std::string& encoded : {ToUTF16LE(Catalog(texts)), ToUTF16BE(Catalog(texts))}) {
+        const std::string odd = encoded + "x";
+        ASSERT_EQ(1u, odd.size() % 2);
+        ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("utf16.xml", odd))));
+        EXPECT_EQ(VELString(std::u16string(u"caf\u00E9")), API()->GetBaseLocation());
+        EXPECT_EQ(1u, Components().size());
+        EXPECT_EQ(1u, Bundles().size());
+    }
+    ExpectTheSmallCatalogGivesItsUpdate();
+}
+
+TEST(HostileCatalogFile, UTF16CutToAnOddLengthFails)
+{
+    TempDir dir;
+    CatalogTexts texts;
+    texts.declaration = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n";
+    for (const std::string& encoded : {ToUTF16LE(Catalog(texts)), ToUTF16BE(Catalog(texts))}) {
+        // The last cut ends inside the root's end tag.
+        for (std::size_t size : {std::size_t(1), std::size_t(3), encoded.size() / 2 + 1, encoded.size() - 5}) {
+            std::string cut = encoded.substr(0, size | 1);
+            ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+            EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("cut.xml", cut)))) << cut.size();
+            ExpectNoCatalog();
+        }
+    }
+}
+
+TEST(HostileCatalogFile, UTF16WithAByteSlippedInFails)
+{
+    TempDir dir;
+    CatalogTexts texts;
+    texts.declaration = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n";
+    for (const std::string& encoded : {ToUTF16LE(Catalog(texts)), ToUTF16BE(Catalog(texts))}) {
+        // Right after the byte-order mark, and in the middle: every code
+        // unit after it is read from the wrong pair of bytes.
+        for (std::size_t position : {std::size_t(2), encoded.size() / 2}) {
+            std::string slipped = WithByte(encoded, position, '<');
+            ASSERT_EQ(1u, slipped.size() % 2);
+            EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("slipped.xml", slipped)))) << position;
+            ExpectNoCatalog();
+        }
+    }
+}
+
+TEST(HostileCatalogFile, NulBytesInTheDocumentFail)
+{
+    TempDir dir;
+    const std::string xml = Catalog(CatalogTexts());
+    const std::vector<std::size_t> positions = {
+        0,                                    // first byte
+        xml.find("?>") + 1,                   // inside the declaration
+        xml.find("updates.example.net") + 7,  // inside an attribute value
+        xml.find("<SoftwareComponent"),       // between two entries
+        xml.find("Component</Display>") + 4,  // inside a text
+        xml.find("<Name>") + 3,               // inside an element name
+        xml.rfind("</Manifest>") + 5,         // inside the root's end tag
+    };
+    for (std::size_t position : positions) {
+        ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("nul.xml", WithByte(xml, position, '\0')))))
+            << "NUL at " << position;
+        ExpectNoCatalog();
+    }
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, NothingAfterTheRootElementIsRead)
+{
+    // What follows the root element, behind a NUL byte or not, is not part
+    // of the document: the entries it spells are never read.
+    TempDir dir;
+    const std::string xml = Catalog(CatalogTexts());
+    const std::string more = "<SoftwareComponent path=\"x\"/><Manifest baseLocation=\"other\"/>";
+    for (const std::string& tail : {std::string(1, '\0'), std::string(1, '\0') + "\n", std::string(1, '\0') + more,
+                                    std::string("\n") + '\0' + more, more}) {
+        ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("tail.xml", xml + tail))));
+        EXPECT_EQ(VELString("updates.example.net"), API()->GetBaseLocation());
+        EXPECT_EQ(1u, Components().size());
+        EXPECT_EQ(1u, Bundles().size());
+    }
+    ExpectTheSmallCatalogGivesItsUpdate();
+}
+
+TEST(HostileCatalogFile, UndefinedEntityReferencesStayAsWritten)
+{
+    TempDir dir;
+    CatalogTexts texts;
+    texts.baseLocation = "a&undefined;b";
+    texts.componentName = "&nope;";
+    texts.vendorVersion = "&version;";
+    texts.categoryText = "x &amp; &unknown; y";
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("entities.xml", Catalog(texts)))));
+    EXPECT_EQ(VELString("a&undefined;b"), API()->GetBaseLocation());
+    ASSERT_EQ(1u, Components().size());
+    EXPECT_EQ("&nope;", FirstDisplayText(Components().front()->GetName()));
+    EXPECT_EQ(VELString("&version;"), Components().front()->GetVendorVersion());
+    std::map<VELString, VELString> categories;
+    API()->GetCategoryValues(categories);
+    EXPECT_EQ(VELString("x & &unknown; y"), categories[VELString("BI")]);
+    ExpectTheSmallCatalogGivesItsUpdate();
+}
+
+TEST(HostileCatalogFile, ExponentialEntitiesAreNeverExpanded)
+{
+    TempDir dir;
+    CatalogTexts texts;
+    texts.doctype = kLaughs;
+    texts.baseLocation = "&lol9;";
+    texts.bundleName = "&lol9;&lol9;";
+    texts.componentName = "&boom;";
+    texts.categoryText = "&lol9;";
+    texts.vendorVersion = "&lol9;";
+    const std::string xml = Catalog(texts);
+    const std::size_t before = PeakResidentBytes();
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("laughs.xml", xml))));
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
+    EXPECT_EQ(VELString("&lol9;"), API()->GetBaseLocation());
+    ASSERT_EQ(1u, Bundles().size());
+    EXPECT_EQ("&lol9;&lol9;", FirstDisplayText(Bundles().front()->GetName()));
+    ASSERT_EQ(1u, Components().size());
+    EXPECT_EQ("&boom;", FirstDisplayText(Components().front()->GetName()));
+    EXPECT_EQ(VELString("&lol9;"), Components().front()->GetVendorVersion());
+    EXPECT_LT(EveryStoredText().size(), 10000u);
+    ExpectTheSmallCatalogGivesItsUpdate();
+}
+
+TEST(HostileCatalogFile, OneWideEntityReferencedManyTimesIsNeverExpanded)
+{
+    TempDir dir;
+    CatalogTexts texts;
+    texts.doctype = WideEntity();
+    // 2 * 10^9 characters if expanded.
+    texts.baseLocation = Repeat("&wide;", 20000);
+    const std::string xml = Catalog(texts);
+    const std::size_t before = PeakResidentBytes();
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
+    EXPECT_EQ(VELString(Repeat("&wide;", 20000).c_str()), API()->GetBaseLocation());
+}
+
+TEST(HostileCatalogFile, ExternalEntitiesNeverReadTheFilesTheyName)
+{
+    TempDir dir;
+    WriteSecrets(dir);
+    CatalogTexts texts;
+    texts.doctype = ExternalEntities(dir);
+    texts.baseLocation = "&file;";
+    texts.releaseID = "&rel;";
+    texts.version = "&leak;";
+    texts.bundleName = "&pub;";
+    texts.componentName = "&file;&rel;&leak;&pub;";
+    texts.categoryText = "&file;";
+    texts.vendorVersion = "&leak;";
+    texts.componentPath = "dir/&rel;";
+    texts.collectorPath = "&file;";
+    std::string xml = Catalog(texts);
+    // And an inclusion of the file as text.
+    const std::string include =
+        "<xi:include xmlns:xi=\"http://www.w3.org/2001/XInclude\" href=\"secret.txt\" parse=\"text\"/>";
+    xml.insert(xml.find("</Manifest>"), include);
+    xml.insert(xml.find("&file;</Display></Category>"), include);
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("external.xml", xml))));
+    const std::string stored = EveryStoredText();
+    EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
+    EXPECT_EQ(VELString("&file;"), API()->GetBaseLocation());
+    EXPECT_EQ(VELString("&rel;"), API()->GetCatalogReleaseID());
+    EXPECT_EQ(VELString("&leak;"), API()->GetCatalogVersion());
+    ASSERT_EQ(1u, Components().size());
+    EXPECT_EQ("&file;&rel;&leak;&pub;", FirstDisplayText(Components().front()->GetName()));
+    EXPECT_EQ(VELString("&file;/&file;"), API()->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")));
+}
+
+// -------------------------------------------------------------- inventory
+
+TEST(HostileInventoryFile, EmptyFileFails)
+{
+    TempDir dir;
+    EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(dir.Write("empty.xml", ""))));
+    ExpectNoInventory();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileInventoryFile, DeclarationWithoutRootFails)
+{
+    TempDir dir;
+    EXPECT_EQ(QRM_KIT_FAILURE,
+              API()->ParseInventory(VELFile(dir.Write("noroot.xml", "<?xml version=\"1.0\"?>\n  \n"))));
+    ExpectNoInventory();
+}
+
+TEST(HostileInventoryFile, DirectoryIsNotFound)
+{
+    TempDir dir;
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile(dir.Path())));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile(dir.Path() + "/")));
+    ExpectNoInventory();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileInventoryFile, MissingFileIsNotFound)
+{
+    TempDir dir;
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile(dir.PathOf("absent.xml"))));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile("")));
+    std::string file = dir.Write("file.xml", Inventory(InventoryTexts()));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile(file + "/inventory.xml")));
+    ASSERT_EQ(0, ::symlink(dir.PathOf("nowhere.xml").c_str(), dir.PathOf("dangling.xml").c_str()));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile(dir.PathOf("dangling.xml"))));
+    ExpectNoInventory();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileInventoryFile, SpecialFilesAreNotFoundAndNeverRead)
+{
+    TempDir dir;
+    ASSERT_EQ(0, ::mkfifo(dir.PathOf("pipe.xml").c_str(), 0600));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile(dir.PathOf("pipe.xml"))));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile("/dev/zero")));
+    EXPECT_EQ(QRM_KIT_NOT_FOUND, API()->ParseInventory(VELFile("/dev/null")));
+    ExpectNoInventory();
+}
+
+TEST(HostileInventoryFile, BinaryGarbageFails)
+{
+    TempDir dir;
+    const std::size_t before = PeakResidentBytes();
+    std::size_t largest = 0;
+    for (unsigned int seed = 11; seed <= 18; ++seed) {
+        std::string bytes = Garbage(std::size_t(1) << (seed - 1), seed);
+        largest = bytes.size();
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(dir.Write("garbage.bin", bytes)))) << seed;
+    }
+    const std::string noise = Garbage(4096, 7);
+    EXPECT_EQ(QRM_KIT_FAILURE,
+              API()->ParseInventory(VELFile(dir.Write("garbage.xml", "<SVMInventory lang=\"en\">" + noise))));
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(largest, 64));
+    ExpectNoInventory();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileInventoryFile, InvalidUTF8IsReadAsReplacementCharacters)
+{
+    TempDir dir;
+    InventoryTexts texts;
+    const std::string bad = "a" + kInvalidUTF8 + "z";
+    texts.lang = "e" + kInvalidUTF8 + "n";
+    texts.schemaVersion = bad;
+    texts.osVendor = bad;
+    texts.systemDisplay = bad;
+    texts.deviceDisplay = bad;
+    texts.applicationVersion = bad;
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("utf8.xml", Inventory(texts)))));
+    EXPECT_EQ(QRM_LANG_EN, API()->GetInventoryLanguage());
+    EXPECT_TRUE(IsAReplacedZ(API()->GetInventorySchemaVersion()));
+    std::vector<QRMOperatingSystem> oses;
+    API()->GetInventoryOperatingSystems(oses);
+    ASSERT_EQ(1u, oses.size());
+    EXPECT_TRUE(IsAReplacedZ(oses[0].GetVendor()));
+    std::vector<QRMISystem> systems;
+    API()->GetInventorySystems(systems);
+    ASSERT_EQ(1u, systems.size());
+    EXPECT_TRUE(IsAReplacedZ(systems[0].GetDisplay()));
+    EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
+    ASSERT_EQ(1u, Devices().size());
+    EXPECT_TRUE(IsAReplacedZ(Devices()[0]->GetDisplay()));
+    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
+    const VELString version = Applications(*Devices()[0])[0]->GetVersion();
+    EXPECT_TRUE(IsAReplacedZ(version));
+    EXPECT_EQ(-2, API()->CompareVersion(version, VELString("2.4.1")));
+    ExpectTheSmallInventoryGetsItsUpdate();
+}
+
+TEST(HostileInventoryFile, UTF16WithADanglingByteAfterTheDocumentIsReadWhole)
+{
+    TempDir dir;
+    InventoryTexts texts;
+    texts.declaration = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n";
+    texts.deviceDisplay = "\xE6\x97\xA5\xE6\x9C\xAC";
+    const std::string odd = ToUTF16BE(Inventory(texts)) + "x";
+    ASSERT_EQ(1u, odd.size() % 2);
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("utf16.xml", odd))));
+    ASSERT_EQ(1u, Devices().size());
+    EXPECT_EQ(VELString(std::u16string(u"\u65E5\u672C")), Devices()[0]->GetDisplay());
+    ExpectTheSmallInventoryGetsItsUpdate();
+}
+
+TEST(HostileInventoryFile, UTF16CutToAnOddLengthFails)
+{
+    TempDir dir;
+    InventoryTexts texts;
+    texts.declaration = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n";
+    for (const std::string& encoded : {ToUTF16LE(Inventory(texts)), ToUTF16BE(Inventory(texts))}) {
+        for (std::size_t size : {std::size_t(1), encoded.size() / 3, encoded.size() - 5}) {
+            std::string cut = encoded.substr(0, size | 1);
+            EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(dir.Write("cut.xml", cut)))) << cut.size();
+        }
+        std::string slipped = WithByte(encoded, 2, 'x');
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(dir.Write("slipped.xml", slipped))));
+    }
+    ExpectNoInventory();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileInventoryFile, NulBytesInTheDocumentFail)
+{
+    TempDir dir;
+    const std::string xml = Inventory(InventoryTexts());
+    const std::vector<std::size_t> positions = {
+        0,
+        xml.find("lang=\"en\"") + 7,
+        xml.find("<Device"),
+        xml.find("version=\"2.3.9\"") + 10,
+        xml.find("Server OS") + 6,
+        xml.rfind("</SVMInventory>") + 3,
+    };
+    for (std::size_t position : positions) {
+        EXPECT_EQ(QRM_KIT_FAILURE,
+                  API()->ParseInventory(VELFile(dir.Write("nul.xml", WithByte(xml, position, '\0')))))
+            << "NUL at " << position;
+    }
+    ExpectNoInventory();
+    ExpectExampleUpdates();
+}
+
+TEST(HostileInventoryFile, NothingAfterTheRootElementIsRead)
+{
+    TempDir dir;
+    const std::string xml = Inventory(InventoryTexts());
+    const std::string more = "<Device componentID=\"1\" display=\"Injected\"/><System systemID=\"1\"/>";
+    ASSERT_EQ(QRM_KIT_SUCCESS,
+              API()->ParseInventory(VELFile(dir.Write("tail.xml", xml + std::string(1, '\0') + more))));
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("tail.xml", xml + more))));
+    EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
+    // The second read stores its device with an application a second time;
+    // the injected device is never read.
+    ASSERT_EQ(2u, Devices().size());
+    EXPECT_EQ(VELString("BIOS"), Devices()[1]->GetDisplay());
+}
+
+TEST(HostileInventoryFile, UndefinedEntityReferencesStayAsWritten)
+{
+    TempDir dir;
+    InventoryTexts texts;
+    texts.lang = "&lang;";
+    texts.deviceDisplay = "&device;";
+    texts.applicationVersion = "2 . &minor; .9";
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("entities.xml", Inventory(texts)))));
+    EXPECT_EQ(QRM_LANG_EN, API()->GetInventoryLanguage());
+    ASSERT_EQ(1u, Devices().size());
+    EXPECT_EQ(VELString("&device;"), Devices()[0]->GetDisplay());
+    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
+    EXPECT_EQ(VELString("2.&minor;.9"), Applications(*Devices()[0])[0]->GetVersion());
+    ExpectTheSmallInventoryGetsItsUpdate();
+}
+
+TEST(HostileInventoryFile, ExponentialEntitiesAreNeverExpanded)
+{
+    TempDir dir;
+    InventoryTexts texts;
+    texts.doctype = kLaughs;
+    texts.lang = "&lol9;";
+    texts.deviceDisplay = "&lol9;";
+    texts.applicationVersion = "&boom;";
+    texts.osDisplay = "&lol9;&lol9;";
+    const std::string xml = Inventory(texts);
+    const std::size_t before = PeakResidentBytes();
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("laughs.xml", xml))));
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
+    ASSERT_EQ(1u, Devices().size());
+    EXPECT_EQ(VELString("&lol9;"), Devices()[0]->GetDisplay());
+    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
+    EXPECT_EQ(VELString("&boom;"), Applications(*Devices()[0])[0]->GetVersion());
+    EXPECT_LT(EveryStoredText().size(), 10000u);
+    ExpectTheSmallInventoryGetsItsUpdate();
+}
+
+TEST(HostileInventoryFile, OneWideEntityReferencedManyTimesIsNeverExpanded)
+{
+    TempDir dir;
+    InventoryTexts texts;
+    texts.doctype = WideEntity();
+    texts.applicationVersion = Repeat("&wide; ", 20000);
+    const std::string xml = Inventory(texts);
+    const std::size_t before = PeakResidentBytes();
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("wide.xml", xml))));
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
+    ASSERT_EQ(1u, Devices().size());
+    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
+    EXPECT_EQ(VELString(Repeat("&wide;", 20000).c_str()), Applications(*Devices()[0])[0]->GetVersion());
+}
+
+TEST(HostileInventoryFile, ExternalEntitiesNeverReadTheFilesTheyName)
+{
+    TempDir dir;
+    WriteSecrets(dir);
+    InventoryTexts texts;
+    texts.doctype = ExternalEntities(dir);
+    texts.schemaVersion = "&file;";
+    texts.osVendor = "&file;";
+    texts.osDisplay = "&rel;";
+    texts.systemDisplay = "&leak;";
+    texts.deviceDisplay = "&file;";
+    texts.applicationVersion = "&rel;";
+    texts.applicationDisplay = "&pub;";
+    std::string xml = Inventory(texts);
+    xml.insert(xml.find("</Device>"),
+               "<xi:include xmlns:xi=\"http://www.w3.org/2001/XInclude\" href=\"secret.txt\" parse=\"text\"/>");
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("external.xml", xml))));
+    const std::string stored = EveryStoredText();
+    EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
+    EXPECT_EQ(VELString("&file;"), API()->GetInventorySchemaVersion());
+    ASSERT_EQ(1u, Devices().size());
+    EXPECT_EQ(VELString("&file;"), Devices()[0]->GetDisplay());
+    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
+    EXPECT_EQ(VELString("&rel;"), Applications(*Devices()[0])[0]->GetVersion());
+    EXPECT_EQ(VELString("&pub;"), Applications(*Devices()[0])[0]->GetDisplay());
+}
