@@ -28,7 +28,9 @@ public:
     typedef T* const* const_iterator;
 
     QRMOwnedList() = default;
-    QRMOwnedList(const QRMOwnedList& other) { AppendCopiesOf(other); }
+    // Delegates first, so that the copies made before an allocation fails
+    // are released by the destructor.
+    QRMOwnedList(const QRMOwnedList& other) : QRMOwnedList() { AppendCopiesOf(other); }
     QRMOwnedList& operator=(const QRMOwnedList& other)
     {
         if (this == &other) {

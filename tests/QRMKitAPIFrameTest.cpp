@@ -49,6 +49,27 @@ TEST(QRMKitAPIInstance, TwoCallsGiveTheSamePointer)
     EXPECT_EQ(first, second);
 }
 
+TEST(QRMKitAPIInstance, DeletedInstanceIsReplacedByAFreshOneWhileTheStoresStay)
+{
+    const std::string examples = QRMKIT_EXAMPLES_DIR;
+    QRMKitAPI* first = QRMKitAPI::Instance();
+    ASSERT_EQ(QRM_KIT_SUCCESS, first->Initialize(VELFile(examples + "/catalog.xml")));
+    ASSERT_EQ(QRM_KIT_SUCCESS, first->Parse(VELFile(examples + "/catalog.xml")));
+    // Callers are told never to do this; when one does, the next Instance()
+    // must not hand out the deleted object.
+    delete first;
+    QRMKitAPI* second = QRMKitAPI::Instance();
+    ASSERT_NE(nullptr, second);
+    EXPECT_EQ(second, QRMKitAPI::Instance());
+    // The instance's own state is new ...
+    EXPECT_FALSE(second->IsInitialized());
+    // ... the stores belong to the process, not to the instance.
+    EXPECT_TRUE(second->IsCatalogParsed());
+    std::vector<QRMSoftwareComponent*> components;
+    second->GetSoftwareComponents(components);
+    EXPECT_EQ(48u, components.size());
+}
+
 TEST(QRMKitAPIInstance, IsNotInitializedBeforeInitialize)
 {
     EXPECT_FALSE(QRMKitAPI::Instance()->IsInitialized());

@@ -113,11 +113,8 @@ struct CandidateIndex {
         std::vector<QRMDevice*> devices;
         std::vector<QRMPCIInfo*> pciInfo;
         for (const QRMBundleContent& package : packages) {
-            auto listed = byFileName.find(package.GetPathView());
-            if (listed == byFileName.end()) {
-                continue;
-            }
-            for (QRMSoftwareComponent* component : listed->second) {
+            // Every listed name was indexed above.
+            for (QRMSoftwareComponent* component : byFileName.find(package.GetPathView())->second) {
                 const QRMComponentTypeValueEnum type = component->GetComponentType().GetValue();
                 devices.clear();
                 component->GetSupportedDevices(devices);
@@ -191,6 +188,10 @@ try {
     }
     const CandidateIndex index(*bundle, mCatalogManifest.SoftwareComponents());
 
+    // The answer is built apart and handed over at the end without
+    // allocating, so a call that runs out of memory leaves the caller's map
+    // as it was.
+    std::map<QRMIApplication*, QRMSoftwareComponent*> found;
     std::vector<QRMIApplication*> applications;
     for (const QRMIDevice* device : mInventory.Devices()) {
         const unsigned long long componentID = device->GetComponentID();
@@ -227,12 +228,21 @@ try {
                 newest.Offer(candidate.component);
             }
             if (newest.Best() != nullptr) {
-                updates[application] = newest.Best();
+                found[application] = newest.Best();
             }
+        }
+    }
+    // An entry the caller already had for an application is replaced; the
+    // others stay.
+    while (!found.empty()) {
+        auto node = found.extract(found.begin());
+        auto placed = updates.insert(std::move(node));
+        if (!placed.inserted) {
+            placed.position->second = placed.node.mapped();
         }
     }
     return QRM_KIT_SUCCESS;
 } catch (const std::exception&) {
-    // Out of memory: the call fails; what was stored before stays.
+    // Out of memory: the call fails and the caller's map is unchanged.
     return QRM_KIT_FAILURE;
 }

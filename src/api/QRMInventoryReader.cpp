@@ -245,7 +245,9 @@ try {
     mInventory.SetParsed();
     return QRM_KIT_SUCCESS;
 } catch (const std::exception&) {
-    // Out of memory: the call fails; what was stored before stays.
+    // Out of memory: the call fails as a file with a dropped device does:
+    // the devices read so far stay stored, and the inventory is not marked
+    // parsed by this call.
     return QRM_KIT_FAILURE;
 }
 

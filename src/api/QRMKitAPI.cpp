@@ -128,7 +128,8 @@ try {
     document.reset();
     return mCatalogManifest.SetParsed();
 } catch (const std::exception&) {
-    // Out of memory: the call fails; what was stored before stays.
+    // Out of memory: the call fails as a file with a missing element does:
+    // what was read so far stays stored, and the catalog is not parsed.
     return QRM_KIT_FAILURE;
 }
 

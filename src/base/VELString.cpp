@@ -35,14 +35,9 @@ bool IsASCII(const char* bytes, std::size_t length)
     return true;
 }
 
+// For text that is not plain ASCII (FromUTF8 copies that directly).
 std::u16string DecodeUTF8(const char* bytes, std::size_t length)
 {
-    if (length == 0) {
-        return std::u16string();
-    }
-    if (IsASCII(bytes, length)) {
-        return std::u16string(bytes, bytes + length);
-    }
     std::string valid;
     valid.reserve(length);
     utf8::replace_invalid(bytes, bytes + length, std::back_inserter(valid), 0xFFFDu);

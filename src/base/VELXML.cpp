@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <string>
 
 #include <fcntl.h>
@@ -307,16 +308,17 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
                                                            : "file cannot be read";
         return nullptr;
     }
-    VELXMLDocument* document = new VELXMLDocument;
+    // The file's bytes are freed here until the parser has taken them over.
+    std::unique_ptr<void, pugi::deallocation_function> bytes(contents, pugi::get_memory_deallocation_function());
+    std::unique_ptr<VELXMLDocument> document(new VELXMLDocument);
     pugi::xml_parse_result result = document->mImpl->document.load_buffer_inplace_own(
-        contents, size, pugi::parse_default, pugi::encoding_auto);
+        bytes.release(), size, pugi::parse_default, pugi::encoding_auto);
     if (!result) {
         errorCode = static_cast<int>(result.status);
         std::string text = std::string(result.description()) + " at offset " +
                            std::to_string(static_cast<long long>(result.offset));
         errorText = VELString::FromUTF8(text.data(), text.size());
-        delete document;
         return nullptr;
     }
-    return document;
+    return document.release();
 }
