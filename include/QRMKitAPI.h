@@ -98,8 +98,9 @@ public:
     // found among equals. Devices with component id 2331 are never matched.
     // The installed version and the architecture are not consulted.
     // Entries are added to `updates` (not cleared); QRM_KIT_FAILURE with
-    // `updates` untouched when the catalog or the inventory is not parsed or
-    // no bundle applies. Keys and values stay owned by the stores.
+    // `updates` untouched when the catalog or the inventory is not parsed,
+    // no bundle applies or memory runs out. Keys and values stay owned by
+    // the stores.
     QRMKitReturnCode GetApplicableUpdates(std::map<QRMIApplication*, QRMSoftwareComponent*>& updates,
                                           QRMOSArchitectureEnum osArchitecture,
                                           QRMBundleTypeEnum bundleType) const;

@@ -23,20 +23,6 @@ QRMKitReturnCode ParseText(const TempDir& dir, const std::string& xml,
     return API()->Parse(VELFile(dir.Write(name, xml)));
 }
 
-std::size_t ComponentCount()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    API()->GetSoftwareComponents(components);
-    return components.size();
-}
-
-std::size_t BundleCount()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    API()->GetSoftwareBundles(bundles);
-    return bundles.size();
-}
-
 std::vector<QRMInventoryComponent> InventoryComponents()
 {
     std::vector<QRMInventoryComponent> components;

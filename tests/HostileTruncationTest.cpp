@@ -28,27 +28,6 @@ std::string Contents(const std::string& path)
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
-std::size_t ComponentCount()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    API()->GetSoftwareComponents(components);
-    return components.size();
-}
-
-std::size_t BundleCount()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    API()->GetSoftwareBundles(bundles);
-    return bundles.size();
-}
-
-std::size_t CollectorCount()
-{
-    std::vector<QRMInventoryComponent> collectors;
-    API()->GetInventoryComponents(collectors);
-    return collectors.size();
-}
-
 std::size_t Count(const std::string& text, const std::string& what)
 {
     std::size_t count = 0;

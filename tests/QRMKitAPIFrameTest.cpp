@@ -18,20 +18,6 @@ std::string TwoOfEachCatalog()
             CatalogXML::Component("C2") + CatalogXML::InventoryComponent("LIN", "inv/lin.bin"));
 }
 
-std::size_t ComponentCount()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    QRMKitAPI::Instance()->GetSoftwareComponents(components);
-    return components.size();
-}
-
-std::size_t BundleCount()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    QRMKitAPI::Instance()->GetSoftwareBundles(bundles);
-    return bundles.size();
-}
-
 std::vector<QRMInventoryComponent> InventoryComponents()
 {
     std::vector<QRMInventoryComponent> components;

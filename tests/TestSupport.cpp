@@ -98,6 +98,34 @@ std::size_t MemoryAllowance(std::size_t inputBytes, std::size_t factor)
 #endif
 }
 
+std::size_t ComponentCount()
+{
+    std::vector<QRMSoftwareComponent*> components;
+    QRMKitAPI::Instance()->GetSoftwareComponents(components);
+    return components.size();
+}
+
+std::size_t BundleCount()
+{
+    std::vector<QRMSoftwareBundle*> bundles;
+    QRMKitAPI::Instance()->GetSoftwareBundles(bundles);
+    return bundles.size();
+}
+
+std::size_t CollectorCount()
+{
+    std::vector<QRMInventoryComponent> collectors;
+    QRMKitAPI::Instance()->GetInventoryComponents(collectors);
+    return collectors.size();
+}
+
+std::size_t DeviceCount()
+{
+    std::vector<QRMIDevice*> devices;
+    QRMKitAPI::Instance()->GetInventory(devices);
+    return devices.size();
+}
+
 void ExpectNoCatalog()
 {
     QRMKitAPI* api = QRMKitAPI::Instance();

@@ -52,6 +52,13 @@ std::size_t PeakResidentBytes();
 // loosened in an AddressSanitizer build (shadow memory, quarantine).
 std::size_t MemoryAllowance(std::size_t inputBytes, std::size_t factor);
 
+// How many entries the stores hold: catalog components, bundles, inventory
+// collectors, inventory devices.
+std::size_t ComponentCount();
+std::size_t BundleCount();
+std::size_t CollectorCount();
+std::size_t DeviceCount();
+
 // What every query reports while no catalog is parsed: an empty store that
 // is not parsed, no base location, no bundle, no updates (the caller's map
 // left as it was), and "Catalog not initialized" from the two queries of

@@ -342,6 +342,23 @@ TEST(QRMOwnedListCopies, CopyIsDeepAndInOrderAndSelfAssignmentEmpties)
     EXPECT_EQ(0u, assigned.Size());
 }
 
+TEST(QRMOwnedListEquality, AllPairsRuleAsksAGivenEqualityBothWays)
+{
+    // With a one-sided relation ("device id not greater") the first list's
+    // entries all pass against the second's, but not the other way round.
+    QRMOwnedList<QRMPCIInfo> lower;
+    lower.Append(NthPCI(1));
+    QRMOwnedList<QRMPCIInfo> higher;
+    higher.Append(NthPCI(2));
+    auto notGreater = [](const QRMPCIInfo& left, const QRMPCIInfo& right) {
+        return left.GetDeviceID() <= right.GetDeviceID();
+    };
+    ASSERT_LT(lower.At(0)->GetDeviceID(), higher.At(0)->GetDeviceID());
+    EXPECT_FALSE(lower.AllPairsEqual(higher, notGreater));
+    EXPECT_FALSE(higher.AllPairsEqual(lower, notGreater));
+    EXPECT_TRUE(lower.AllPairsEqual(lower, notGreater));
+}
+
 TEST(QRMOwnedListOrder, AThousandEntriesKeepTheirOrderThroughGrowthAndRemoval)
 {
     QRMOwnedList<QRMPCIInfo> list;

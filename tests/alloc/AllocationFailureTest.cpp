@@ -7,6 +7,7 @@
 // runs out; the failure lasts until the operation returns, as when memory
 // is exhausted.
 #include "FailingAllocator.h"
+#include "TestSupport.h"
 
 #include <QRMKit.h>
 
@@ -34,27 +35,6 @@ std::vector<std::size_t> FailurePoints(std::size_t total)
         points.push_back(n);
     }
     return points;
-}
-
-std::size_t ComponentCount()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    QRMKitAPI::Instance()->GetSoftwareComponents(components);
-    return components.size();
-}
-
-std::size_t BundleCount()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    QRMKitAPI::Instance()->GetSoftwareBundles(bundles);
-    return bundles.size();
-}
-
-std::size_t DeviceCount()
-{
-    std::vector<QRMIDevice*> devices;
-    QRMKitAPI::Instance()->GetInventory(devices);
-    return devices.size();
 }
 
 // A readable account of an object's values. The classes' own equality
