@@ -92,34 +92,6 @@ std::string Inventory(const InventoryTexts& t)
            "\" display=\"" + t.applicationDisplay + "\"/></Device>\n</SVMInventory>\n";
 }
 
-std::vector<QRMSoftwareComponent*> Components()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    API()->GetSoftwareComponents(components);
-    return components;
-}
-
-std::vector<QRMSoftwareBundle*> Bundles()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    API()->GetSoftwareBundles(bundles);
-    return bundles;
-}
-
-std::vector<QRMIDevice*> Devices()
-{
-    std::vector<QRMIDevice*> devices;
-    API()->GetInventory(devices);
-    return devices;
-}
-
-std::vector<QRMIApplication*> Applications(const QRMIDevice& device)
-{
-    std::vector<QRMIApplication*> applications;
-    device.GetApplications(applications);
-    return applications;
-}
-
 template <class Holder>
 std::string DisplayTexts(const Holder& holder)
 {
@@ -147,7 +119,7 @@ std::string EveryStoredText()
     add(API()->GetBaseLocation());
     add(API()->GetCatalogReleaseID());
     add(API()->GetCatalogVersion());
-    for (const QRMSoftwareBundle* bundle : Bundles()) {
+    for (const QRMSoftwareBundle* bundle : StoredBundles()) {
         all += DisplayTexts(bundle->GetName());
         add(bundle->GetBundleID());
         add(bundle->GetPath());
@@ -161,7 +133,7 @@ std::string EveryStoredText()
             add(content.GetPackageID());
         }
     }
-    for (const QRMSoftwareComponent* component : Components()) {
+    for (const QRMSoftwareComponent* component : StoredComponents()) {
         all += DisplayTexts(component->GetName());
         all += DisplayTexts(component->GetCategory());
         add(component->GetCategory().GetCode());
@@ -186,10 +158,10 @@ std::string EveryStoredText()
         add(category.second);
     }
     add(API()->GetInventorySchemaVersion());
-    for (const QRMIDevice* device : Devices()) {
+    for (const QRMIDevice* device : StoredDevices()) {
         add(device->GetDisplay());
         all += DisplayTexts(*device);
-        for (const QRMIApplication* application : Applications(*device)) {
+        for (const QRMIApplication* application : ApplicationsOf(*device)) {
             add(application->GetVersion());
             add(application->GetDisplay());
             add(application->GetSubComponentID());
@@ -222,7 +194,7 @@ void ExpectTheSmallCatalogGivesItsUpdate()
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
     ASSERT_EQ(1u, updates.size());
-    EXPECT_EQ(Components().front(), updates.begin()->second);
+    EXPECT_EQ(StoredComponents().front(), updates.begin()->second);
     EXPECT_EQ(VELString("BIOS"), updates.begin()->first->GetDisplay());
 }
 
@@ -307,16 +279,6 @@ const std::string kLaughs =
 std::string WideEntity()
 {
     return "<!DOCTYPE Root [\n  <!ENTITY wide \"" + std::string(100000, 'w') + "\">\n]>\n";
-}
-
-std::string Repeat(const std::string& text, std::size_t count)
-{
-    std::string all;
-    all.reserve(text.size() * count);
-    for (std::size_t i = 0; i < count; ++i) {
-        all += text;
-    }
-    return all;
 }
 
 // Entities that name a local file, absolutely and relatively, an external
@@ -473,8 +435,8 @@ TEST(HostileCatalogFile, InvalidUTF8IsReadAsReplacementCharacters)
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("utf8.xml", Catalog(texts)))));
     EXPECT_TRUE(IsAReplacedZ(API()->GetBaseLocation()));
     EXPECT_TRUE(IsAReplacedZ(API()->GetCatalogReleaseID()));
-    ASSERT_EQ(1u, Components().size());
-    const QRMSoftwareComponent& component = *Components().front();
+    ASSERT_EQ(1u, StoredComponents().size());
+    const QRMSoftwareComponent& component = *StoredComponents().front();
     std::vector<QRMDisplay> names;
     component.GetName().GetDisplayValues(names);
     ASSERT_EQ(1u, names.size());
@@ -504,16 +466,16 @@ TEST(HostileCatalogFile, InvalidUTF8InElementNamesLeavesThoseElementsUnread)
     renamed.replace(renamed.find("<SoftwareComponent "), 19, "<Software\xFF" "Component ");
     renamed.replace(renamed.find("</SoftwareComponent>"), 20, "</Software\xFF" "Component>");
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("names.xml", renamed))));
-    EXPECT_EQ(0u, Components().size());
-    EXPECT_EQ(1u, Bundles().size());
+    EXPECT_EQ(0u, StoredComponents().size());
+    EXPECT_EQ(1u, StoredBundles().size());
     // A required child whose name is not UTF-8 is a missing child.
     std::string unnamed = xml;
     unnamed.replace(unnamed.find("<Category value"), 9, "<Cat\xC3gory");
     unnamed.replace(unnamed.find("</Category>"), 11, "</Cat\xC3gory>");
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, API()->Parse(VELFile(dir.Write("unnamed.xml", unnamed))));
     EXPECT_FALSE(API()->IsCatalogParsed());
-    EXPECT_EQ(1u, Bundles().size());
-    EXPECT_EQ(0u, Components().size());
+    EXPECT_EQ(1u, StoredBundles().size());
+    EXPECT_EQ(0u, StoredComponents().size());
 }
 
 TEST(HostileCatalogFile, UTF16WithADanglingByteAfterTheDocumentIsReadWhole)
@@ -527,8 +489,8 @@ TEST(HostileCatalogFile, UTF16WithADanglingByteAfterTheDocumentIsReadWhole)
         ASSERT_EQ(1u, odd.size() % 2);
         ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("utf16.xml", odd))));
         EXPECT_EQ(VELString(std::u16string(u"caf\u00E9")), API()->GetBaseLocation());
-        EXPECT_EQ(1u, Components().size());
-        EXPECT_EQ(1u, Bundles().size());
+        EXPECT_EQ(1u, StoredComponents().size());
+        EXPECT_EQ(1u, StoredBundles().size());
     }
     ExpectTheSmallCatalogGivesItsUpdate();
 }
@@ -599,8 +561,8 @@ TEST(HostileCatalogFile, NothingAfterTheRootElementIsRead)
                                     std::string("\n") + '\0' + more, more}) {
         ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("tail.xml", xml + tail))));
         EXPECT_EQ(VELString("updates.example.net"), API()->GetBaseLocation());
-        EXPECT_EQ(1u, Components().size());
-        EXPECT_EQ(1u, Bundles().size());
+        EXPECT_EQ(1u, StoredComponents().size());
+        EXPECT_EQ(1u, StoredBundles().size());
     }
     ExpectTheSmallCatalogGivesItsUpdate();
 }
@@ -615,9 +577,9 @@ TEST(HostileCatalogFile, UndefinedEntityReferencesStayAsWritten)
     texts.categoryText = "x &amp; &unknown; y";
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("entities.xml", Catalog(texts)))));
     EXPECT_EQ(VELString("a&undefined;b"), API()->GetBaseLocation());
-    ASSERT_EQ(1u, Components().size());
-    EXPECT_EQ("&nope;", FirstDisplayText(Components().front()->GetName()));
-    EXPECT_EQ(VELString("&version;"), Components().front()->GetVendorVersion());
+    ASSERT_EQ(1u, StoredComponents().size());
+    EXPECT_EQ("&nope;", FirstDisplayText(StoredComponents().front()->GetName()));
+    EXPECT_EQ(VELString("&version;"), StoredComponents().front()->GetVendorVersion());
     std::map<VELString, VELString> categories;
     API()->GetCategoryValues(categories);
     EXPECT_EQ(VELString("x & &unknown; y"), categories[VELString("BI")]);
@@ -639,11 +601,11 @@ TEST(HostileCatalogFile, ExponentialEntitiesAreNeverExpanded)
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("laughs.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
     EXPECT_EQ(VELString("&lol9;"), API()->GetBaseLocation());
-    ASSERT_EQ(1u, Bundles().size());
-    EXPECT_EQ("&lol9;&lol9;", FirstDisplayText(Bundles().front()->GetName()));
-    ASSERT_EQ(1u, Components().size());
-    EXPECT_EQ("&boom;", FirstDisplayText(Components().front()->GetName()));
-    EXPECT_EQ(VELString("&lol9;"), Components().front()->GetVendorVersion());
+    ASSERT_EQ(1u, StoredBundles().size());
+    EXPECT_EQ("&lol9;&lol9;", FirstDisplayText(StoredBundles().front()->GetName()));
+    ASSERT_EQ(1u, StoredComponents().size());
+    EXPECT_EQ("&boom;", FirstDisplayText(StoredComponents().front()->GetName()));
+    EXPECT_EQ(VELString("&lol9;"), StoredComponents().front()->GetVendorVersion());
     EXPECT_LT(EveryStoredText().size(), 10000u);
     ExpectTheSmallCatalogGivesItsUpdate();
 }
@@ -689,8 +651,8 @@ TEST(HostileCatalogFile, ExternalEntitiesNeverReadTheFilesTheyName)
     EXPECT_EQ(VELString("&file;"), API()->GetBaseLocation());
     EXPECT_EQ(VELString("&rel;"), API()->GetCatalogReleaseID());
     EXPECT_EQ(VELString("&leak;"), API()->GetCatalogVersion());
-    ASSERT_EQ(1u, Components().size());
-    EXPECT_EQ("&file;&rel;&leak;&pub;", FirstDisplayText(Components().front()->GetName()));
+    ASSERT_EQ(1u, StoredComponents().size());
+    EXPECT_EQ("&file;&rel;&leak;&pub;", FirstDisplayText(StoredComponents().front()->GetName()));
     EXPECT_EQ(VELString("&file;/&file;"), API()->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")));
 }
 
@@ -785,10 +747,10 @@ TEST(HostileInventoryFile, InvalidUTF8IsReadAsReplacementCharacters)
     ASSERT_EQ(1u, systems.size());
     EXPECT_TRUE(IsAReplacedZ(systems[0].GetDisplay()));
     EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
-    ASSERT_EQ(1u, Devices().size());
-    EXPECT_TRUE(IsAReplacedZ(Devices()[0]->GetDisplay()));
-    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-    const VELString version = Applications(*Devices()[0])[0]->GetVersion();
+    ASSERT_EQ(1u, StoredDevices().size());
+    EXPECT_TRUE(IsAReplacedZ(StoredDevices()[0]->GetDisplay()));
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    const VELString version = ApplicationsOf(*StoredDevices()[0])[0]->GetVersion();
     EXPECT_TRUE(IsAReplacedZ(version));
     EXPECT_EQ(-2, API()->CompareVersion(version, VELString("2.4.1")));
     ExpectTheSmallInventoryGetsItsUpdate();
@@ -803,8 +765,8 @@ TEST(HostileInventoryFile, UTF16WithADanglingByteAfterTheDocumentIsReadWhole)
     const std::string odd = ToUTF16BE(Inventory(texts)) + "x";
     ASSERT_EQ(1u, odd.size() % 2);
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("utf16.xml", odd))));
-    ASSERT_EQ(1u, Devices().size());
-    EXPECT_EQ(VELString(std::u16string(u"\u65E5\u672C")), Devices()[0]->GetDisplay());
+    ASSERT_EQ(1u, StoredDevices().size());
+    EXPECT_EQ(VELString(std::u16string(u"\u65E5\u672C")), StoredDevices()[0]->GetDisplay());
     ExpectTheSmallInventoryGetsItsUpdate();
 }
 
@@ -857,8 +819,8 @@ TEST(HostileInventoryFile, NothingAfterTheRootElementIsRead)
     EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
     // The second read stores its device with an application a second time;
     // the injected device is never read.
-    ASSERT_EQ(2u, Devices().size());
-    EXPECT_EQ(VELString("BIOS"), Devices()[1]->GetDisplay());
+    ASSERT_EQ(2u, StoredDevices().size());
+    EXPECT_EQ(VELString("BIOS"), StoredDevices()[1]->GetDisplay());
 }
 
 TEST(HostileInventoryFile, UndefinedEntityReferencesStayAsWritten)
@@ -870,10 +832,10 @@ TEST(HostileInventoryFile, UndefinedEntityReferencesStayAsWritten)
     texts.applicationVersion = "2 . &minor; .9";
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("entities.xml", Inventory(texts)))));
     EXPECT_EQ(QRM_LANG_EN, API()->GetInventoryLanguage());
-    ASSERT_EQ(1u, Devices().size());
-    EXPECT_EQ(VELString("&device;"), Devices()[0]->GetDisplay());
-    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-    EXPECT_EQ(VELString("2.&minor;.9"), Applications(*Devices()[0])[0]->GetVersion());
+    ASSERT_EQ(1u, StoredDevices().size());
+    EXPECT_EQ(VELString("&device;"), StoredDevices()[0]->GetDisplay());
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    EXPECT_EQ(VELString("2.&minor;.9"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
     ExpectTheSmallInventoryGetsItsUpdate();
 }
 
@@ -890,10 +852,10 @@ TEST(HostileInventoryFile, ExponentialEntitiesAreNeverExpanded)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("laughs.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Devices().size());
-    EXPECT_EQ(VELString("&lol9;"), Devices()[0]->GetDisplay());
-    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-    EXPECT_EQ(VELString("&boom;"), Applications(*Devices()[0])[0]->GetVersion());
+    ASSERT_EQ(1u, StoredDevices().size());
+    EXPECT_EQ(VELString("&lol9;"), StoredDevices()[0]->GetDisplay());
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    EXPECT_EQ(VELString("&boom;"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
     EXPECT_LT(EveryStoredText().size(), 10000u);
     ExpectTheSmallInventoryGetsItsUpdate();
 }
@@ -908,9 +870,9 @@ TEST(HostileInventoryFile, OneWideEntityReferencedManyTimesIsNeverExpanded)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Devices().size());
-    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-    EXPECT_EQ(VELString(Repeat("&wide;", 20000).c_str()), Applications(*Devices()[0])[0]->GetVersion());
+    ASSERT_EQ(1u, StoredDevices().size());
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    EXPECT_EQ(VELString(Repeat("&wide;", 20000).c_str()), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
 }
 
 TEST(HostileInventoryFile, ExternalEntitiesNeverReadTheFilesTheyName)
@@ -933,9 +895,9 @@ TEST(HostileInventoryFile, ExternalEntitiesNeverReadTheFilesTheyName)
     const std::string stored = EveryStoredText();
     EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
     EXPECT_EQ(VELString("&file;"), API()->GetInventorySchemaVersion());
-    ASSERT_EQ(1u, Devices().size());
-    EXPECT_EQ(VELString("&file;"), Devices()[0]->GetDisplay());
-    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-    EXPECT_EQ(VELString("&rel;"), Applications(*Devices()[0])[0]->GetVersion());
-    EXPECT_EQ(VELString("&pub;"), Applications(*Devices()[0])[0]->GetDisplay());
+    ASSERT_EQ(1u, StoredDevices().size());
+    EXPECT_EQ(VELString("&file;"), StoredDevices()[0]->GetDisplay());
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    EXPECT_EQ(VELString("&rel;"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
+    EXPECT_EQ(VELString("&pub;"), ApplicationsOf(*StoredDevices()[0])[0]->GetDisplay());
 }

@@ -24,46 +24,8 @@ const std::string kNines(10000, '9');
 const std::string kEffs(10000, 'F');
 const std::string kZeros(10000, '0');
 
-std::string Repeat(const std::string& text, std::size_t count)
-{
-    std::string all;
-    all.reserve(text.size() * count);
-    for (std::size_t i = 0; i < count; ++i) {
-        all += text;
-    }
-    return all;
-}
-
 unsigned int Decimal(const std::string& text) { return VELString(text.c_str()).GetIntValue(std::dec); }
 unsigned int Hexadecimal(const std::string& text) { return VELString(text.c_str()).GetIntValue(std::hex); }
-
-std::vector<QRMSoftwareComponent*> Components()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    API()->GetSoftwareComponents(components);
-    return components;
-}
-
-std::vector<QRMSoftwareBundle*> Bundles()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    API()->GetSoftwareBundles(bundles);
-    return bundles;
-}
-
-std::vector<QRMIDevice*> Devices()
-{
-    std::vector<QRMIDevice*> devices;
-    API()->GetInventory(devices);
-    return devices;
-}
-
-std::vector<QRMIApplication*> Applications(const QRMIDevice& device)
-{
-    std::vector<QRMIApplication*> applications;
-    device.GetApplications(applications);
-    return applications;
-}
 
 std::string Bundle(const std::string& attributes, const std::string& brand)
 {
@@ -158,8 +120,8 @@ TEST(HostileNumber, CatalogNumbersOfTenThousandDigits)
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
 
     EXPECT_EQ(kLargest, API()->GetCatalogDateTime().GetValue());
-    ASSERT_EQ(2u, Bundles().size());
-    const QRMSoftwareBundle& windows = *Bundles()[0];
+    ASSERT_EQ(2u, StoredBundles().size());
+    const QRMSoftwareBundle& windows = *StoredBundles()[0];
     EXPECT_EQ(kLargest, windows.GetDateTime().GetValue());
     std::vector<unsigned int> systemIDs;
     windows.GetSupportedSystemIDs(systemIDs);
@@ -170,13 +132,13 @@ TEST(HostileNumber, CatalogNumbersOfTenThousandDigits)
     ASSERT_EQ(1u, brands.size());
     EXPECT_EQ(kLargest, brands[0]->GetKey());
     systemIDs.clear();
-    Bundles()[1]->GetSupportedSystemIDs(systemIDs);
+    StoredBundles()[1]->GetSupportedSystemIDs(systemIDs);
     EXPECT_EQ(std::vector<unsigned int>{0xA6Bu}, systemIDs);
     EXPECT_EQ(kLargest, API()->GetGreatestBundleNumber(QRM_BUNDLE_BTW64));
     EXPECT_EQ(42u, API()->GetGreatestBundleNumber(QRM_BUNDLE_BTLX));
 
-    ASSERT_EQ(1u, Components().size());
-    const QRMSoftwareComponent& component = *Components()[0];
+    ASSERT_EQ(1u, StoredComponents().size());
+    const QRMSoftwareComponent& component = *StoredComponents()[0];
     EXPECT_EQ(kLargest, component.GetDateTime().GetValue());
     EXPECT_EQ(7u, component.GetReleaseDate().GetValue());
     EXPECT_TRUE(component.GetSupportedSystems().GetDisplay());
@@ -222,8 +184,8 @@ TEST(HostileNumber, CatalogNumbersOfTenThousandDigits)
     ASSERT_EQ(1u, oses.size());
     EXPECT_EQ(kLargest, oses[0].GetSuiteMask());
     EXPECT_EQ(kLargest, API()->GetSystemIDFromInventory());
-    ASSERT_EQ(2u, Devices().size());
-    const QRMIDevice& big = *Devices()[0];
+    ASSERT_EQ(2u, StoredDevices().size());
+    const QRMIDevice& big = *StoredDevices()[0];
     EXPECT_EQ(kLargest, big.GetComponentID());
     EXPECT_EQ(-1, big.GetBus());
     EXPECT_EQ(0, big.GetDevice());
@@ -233,15 +195,15 @@ TEST(HostileNumber, CatalogNumbersOfTenThousandDigits)
     EXPECT_EQ(-1, big.GetSubDeviceID());
     EXPECT_EQ(-1, big.GetSubVendorID());
     EXPECT_EQ(-1, big.GetComponentInstance());
-    EXPECT_EQ(159u, Devices()[1]->GetComponentID());
+    EXPECT_EQ(159u, StoredDevices()[1]->GetComponentID());
 
-    EXPECT_EQ(Bundles()[0], API()->GetApplicableBundle(QRM_BUNDLE_BTW64));
+    EXPECT_EQ(StoredBundles()[0], API()->GetApplicableBundle(QRM_BUNDLE_BTW64));
     EXPECT_EQ(nullptr, API()->GetApplicableBundle(QRM_BUNDLE_BTLX));
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
     ASSERT_EQ(2u, updates.size());
-    EXPECT_EQ(Components()[0], updates[Applications(big)[0]]);
-    EXPECT_EQ(Components()[0], updates[Applications(*Devices()[1])[0]]);
+    EXPECT_EQ(StoredComponents()[0], updates[ApplicationsOf(big)[0]]);
+    EXPECT_EQ(StoredComponents()[0], updates[ApplicationsOf(*StoredDevices()[1])[0]]);
     EXPECT_EQ(QRM_KIT_FAILURE, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTLX));
 }
 
@@ -308,12 +270,12 @@ TEST(HostileNumber, CatalogVersionsOfAHundredThousandFieldsPickTheNewer)
         const std::string xml = newerFirst ? TwoVersionsCatalog(kSevensThenEight, kSevens)
                                            : TwoVersionsCatalog(kSevens, kSevensThenEight);
         ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("versions.xml", xml))));
-        ASSERT_EQ(2u, Components().size());
+        ASSERT_EQ(2u, StoredComponents().size());
         std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
         ASSERT_EQ(QRM_KIT_SUCCESS, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
         ASSERT_EQ(1u, updates.size());
         EXPECT_EQ(VELString(kSevensThenEight.c_str()), updates.begin()->second->GetVendorVersion());
-        EXPECT_EQ(Components()[newerFirst ? 0 : 1], updates.begin()->second);
+        EXPECT_EQ(StoredComponents()[newerFirst ? 0 : 1], updates.begin()->second);
     }
 }
 
@@ -326,9 +288,9 @@ TEST(HostileNumber, InventoryVersionOfAHundredThousandFieldsLosesItsBlanks)
                             " version=\"" +
                             spaced + "\" display=\"BIOS\"/></Device></SVMInventory>\n";
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("inventory.xml", xml))));
-    ASSERT_EQ(1u, Devices().size());
-    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-    const VELString version = Applications(*Devices()[0])[0]->GetVersion();
+    ASSERT_EQ(1u, StoredDevices().size());
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    const VELString version = ApplicationsOf(*StoredDevices()[0])[0]->GetVersion();
     EXPECT_EQ(VELString(kSevens.c_str()), version);
     EXPECT_EQ(-1, API()->CompareVersion(version, VELString(kSevensThenEight.c_str())));
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));

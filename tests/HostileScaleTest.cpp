@@ -58,27 +58,6 @@ std::string Inventory(const std::string& children)
            children + "</SVMInventory>\n";
 }
 
-std::vector<QRMSoftwareComponent*> Components()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    API()->GetSoftwareComponents(components);
-    return components;
-}
-
-std::vector<QRMIDevice*> Devices()
-{
-    std::vector<QRMIDevice*> devices;
-    API()->GetInventory(devices);
-    return devices;
-}
-
-std::vector<QRMIApplication*> Applications(const QRMIDevice& device)
-{
-    std::vector<QRMIApplication*> applications;
-    device.GetApplications(applications);
-    return applications;
-}
-
 std::map<QRMIApplication*, QRMSoftwareComponent*> Updates()
 {
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
@@ -101,8 +80,8 @@ TEST(HostileScale, DeviceWithAHundredThousandApplicationsKeepsThemAll)
     applications.shrink_to_fit();
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("applications.xml", xml))));
-    ASSERT_EQ(1u, Devices().size());
-    const std::vector<QRMIApplication*> stored = Applications(*Devices()[0]);
+    ASSERT_EQ(1u, StoredDevices().size());
+    const std::vector<QRMIApplication*> stored = ApplicationsOf(*StoredDevices()[0]);
     ASSERT_EQ(kApplications, stored.size());
     EXPECT_EQ(VELString("2.3.0"), stored.front()->GetVersion());
     EXPECT_EQ(VELString("BIOS 99999"), stored.back()->GetDisplay());
@@ -132,8 +111,8 @@ TEST(HostileScale, ApplicationTextsCarryOverToEveryLaterApplication)
     const std::string xml = Inventory("<Device componentID=\"159\" display=\"BIOS\">" + applications + "</Device>\n");
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("texts.xml", xml))));
-    ASSERT_EQ(1u, Devices().size());
-    const std::vector<QRMIApplication*> stored = Applications(*Devices()[0]);
+    ASSERT_EQ(1u, StoredDevices().size());
+    const std::vector<QRMIApplication*> stored = ApplicationsOf(*StoredDevices()[0]);
     ASSERT_EQ(count, stored.size());
     std::size_t texts = 0;
     for (std::size_t i = 0; i < count; ++i) {
@@ -166,9 +145,9 @@ TEST(HostileScale, DeviceWithTextsInManyLanguagesKeepsThemAll)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("texts.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Devices().size());
+    ASSERT_EQ(1u, StoredDevices().size());
     std::vector<QRMDisplay> displays;
-    Devices()[0]->GetDisplayValues(displays);
+    StoredDevices()[0]->GetDisplayValues(displays);
     ASSERT_EQ(count, displays.size());
     EXPECT_EQ(VELString("Text 0"), displays.front().GetValue());
     EXPECT_EQ(VELString(("l" + Number(count - 1)).c_str()), displays.back().GetLanguage());
@@ -188,8 +167,8 @@ TEST(HostileScale, InventoryWithManyDistinctDevicesKeepsThemAll)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("devices.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(kMany, Devices().size());
-    EXPECT_EQ(VELString(("BIOS " + Number(kMany - 1)).c_str()), Devices().back()->GetDisplay());
+    ASSERT_EQ(kMany, StoredDevices().size());
+    EXPECT_EQ(VELString(("BIOS " + Number(kMany - 1)).c_str()), StoredDevices().back()->GetDisplay());
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
     EXPECT_EQ(kMany, Updates().size());
 }
@@ -249,9 +228,9 @@ TEST(HostileScale, ComponentWithManyDistinctDevicesKeepsThemAll)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("devices.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Components().size());
+    ASSERT_EQ(1u, StoredComponents().size());
     std::vector<QRMDevice*> stored;
-    Components().front()->GetSupportedDevices(stored);
+    StoredComponents().front()->GetSupportedDevices(stored);
     ASSERT_EQ(kMany + 1, stored.size());
     EXPECT_EQ(100000u, stored.front()->GetComponentID());
     EXPECT_EQ(159u, stored.back()->GetComponentID());
@@ -272,9 +251,9 @@ TEST(HostileScale, DeviceWithManyDistinctPCIRecordsKeepsThemAll)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("pci.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Components().size());
+    ASSERT_EQ(1u, StoredComponents().size());
     std::vector<QRMDevice*> devices;
-    Components().front()->GetSupportedDevices(devices);
+    StoredComponents().front()->GetSupportedDevices(devices);
     ASSERT_EQ(1u, devices.size());
     std::vector<QRMPCIInfo*> stored;
     devices[0]->GetPCIInfo(stored);
@@ -300,9 +279,9 @@ TEST(HostileScale, ComponentWithManyDistinctOperatingSystemsKeepsThemAll)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("oses.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Components().size());
+    ASSERT_EQ(1u, StoredComponents().size());
     std::vector<QRMOperatingSystem> stored;
-    Components().front()->GetSupportedOperatingSystems().GetOSes(stored);
+    StoredComponents().front()->GetSupportedOperatingSystems().GetOSes(stored);
     ASSERT_EQ(kMany, stored.size());
     EXPECT_EQ(VELString(("W" + Number(kMany - 1)).c_str()), stored.back().GetCode());
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(kExampleInventory)));

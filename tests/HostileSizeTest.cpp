@@ -19,16 +19,6 @@ const std::string kExampleInventory = std::string(QRMKIT_EXAMPLES_DIR) + "/inven
 
 const std::size_t kMegabyte = 1024 * 1024;
 
-std::string Repeat(const std::string& text, std::size_t count)
-{
-    std::string all;
-    all.reserve(text.size() * count);
-    for (std::size_t i = 0; i < count; ++i) {
-        all += text;
-    }
-    return all;
-}
-
 // A bundle of Windows x64 type for system 0A6B whose "Contents" holds
 // `packages`.
 std::string Bundle(const std::string& packages)
@@ -70,34 +60,6 @@ std::string Inventory(const std::string& children)
            children + "</SVMInventory>\n";
 }
 
-std::vector<QRMSoftwareComponent*> Components()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    API()->GetSoftwareComponents(components);
-    return components;
-}
-
-std::vector<QRMSoftwareBundle*> Bundles()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    API()->GetSoftwareBundles(bundles);
-    return bundles;
-}
-
-std::vector<QRMIDevice*> Devices()
-{
-    std::vector<QRMIDevice*> devices;
-    API()->GetInventory(devices);
-    return devices;
-}
-
-std::vector<QRMIApplication*> Applications(const QRMIDevice& device)
-{
-    std::vector<QRMIApplication*> applications;
-    device.GetApplications(applications);
-    return applications;
-}
-
 std::map<QRMIApplication*, QRMSoftwareComponent*> Updates()
 {
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
@@ -114,8 +76,8 @@ void ExpectTheBIOSGetsTheComponent()
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates = Updates();
     ASSERT_EQ(1u, updates.size());
     EXPECT_EQ(VELString("BIOS"), updates.begin()->first->GetDisplay());
-    ASSERT_EQ(1u, Components().size());
-    EXPECT_EQ(Components().front(), updates.begin()->second);
+    ASSERT_EQ(1u, StoredComponents().size());
+    EXPECT_EQ(StoredComponents().front(), updates.begin()->second);
 }
 
 // With the example catalog read after this inventory, `count` applications
@@ -177,9 +139,9 @@ TEST(HostileSize, CatalogTextOf50MegabytesOutsideASCIIIsKeptWhole)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(path)));
     {
-        ASSERT_EQ(1u, Components().size());
+        ASSERT_EQ(1u, StoredComponents().size());
         std::vector<QRMDisplay> names;
-        Components().front()->GetName().GetDisplayValues(names);
+        StoredComponents().front()->GetName().GetDisplayValues(names);
         ASSERT_EQ(1u, names.size());
         const VELString stored = names[0].GetValue();
         ASSERT_EQ(25 * kMegabyte, stored.GetLength());
@@ -200,9 +162,9 @@ TEST(HostileSize, InventoryVersionOf50MegabytesLosesItsBlanks)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(path)));
     {
-        ASSERT_EQ(1u, Devices().size());
-        ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-        const VELString version = Applications(*Devices()[0])[0]->GetVersion();
+        ASSERT_EQ(1u, StoredDevices().size());
+        ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+        const VELString version = ApplicationsOf(*StoredDevices()[0])[0]->GetVersion();
         ASSERT_EQ(25 * kMegabyte, version.GetLength());
         EXPECT_EQ(std::u16string::npos, version.GetUTF16String().find(u' '));
     }
@@ -220,7 +182,7 @@ TEST(HostileSize, CatalogElementNested100000DeepIsSkipped)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("deep.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    EXPECT_EQ(1u, Bundles().size());
+    EXPECT_EQ(1u, StoredBundles().size());
     ExpectTheBIOSGetsTheComponent();
 }
 
@@ -233,8 +195,8 @@ TEST(HostileSize, CatalogBundlesNested100000DeepStopAtTheOutermost)
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, API()->Parse(VELFile(dir.Write("deep.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
     EXPECT_FALSE(API()->IsCatalogParsed());
-    EXPECT_EQ(0u, Bundles().size());
-    EXPECT_EQ(1u, Components().size());
+    EXPECT_EQ(0u, StoredBundles().size());
+    EXPECT_EQ(1u, StoredComponents().size());
     EXPECT_TRUE(API()->GetBaseLocation().IsEmpty());
 }
 
@@ -247,14 +209,14 @@ TEST(HostileSize, PackagesAndDevicesNested100000DeepCountOnce)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("deep.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Bundles().size());
+    ASSERT_EQ(1u, StoredBundles().size());
     std::vector<QRMBundleContent> contents;
-    Bundles().front()->GetContents(contents);
+    StoredBundles().front()->GetContents(contents);
     ASSERT_EQ(1u, contents.size());
     EXPECT_EQ(VELString("PKG.EXE"), contents[0].GetPath());
-    ASSERT_EQ(1u, Components().size());
+    ASSERT_EQ(1u, StoredComponents().size());
     std::vector<QRMDevice*> devices;
-    Components().front()->GetSupportedDevices(devices);
+    StoredComponents().front()->GetSupportedDevices(devices);
     ASSERT_EQ(1u, devices.size());
     EXPECT_EQ(159u, devices[0]->GetComponentID());
     ExpectTheBIOSGetsTheComponent();
@@ -284,9 +246,9 @@ TEST(HostileSize, InventoryApplicationNested100000DeepIsReadOnce)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("deep.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Devices().size());
-    ASSERT_EQ(1u, Applications(*Devices()[0]).size());
-    EXPECT_EQ(VELString("2.3.9"), Applications(*Devices()[0])[0]->GetVersion());
+    ASSERT_EQ(1u, StoredDevices().size());
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    EXPECT_EQ(VELString("2.3.9"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
     ExpectTheExampleCatalogUpdates(1);
 }
 
@@ -311,7 +273,7 @@ TEST(HostileSize, CatalogRootWithAMillionUnknownChildrenReadsItsEntries)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    EXPECT_EQ(1u, Bundles().size());
+    EXPECT_EQ(1u, StoredBundles().size());
     ExpectTheBIOSGetsTheComponent();
 }
 
@@ -323,10 +285,10 @@ TEST(HostileSize, BundleWithAMillionPackagesKeepsThemAll)
                                   Component(kDevice159));
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
-    ASSERT_EQ(1u, Bundles().size());
+    ASSERT_EQ(1u, StoredBundles().size());
     {
         std::vector<QRMBundleContent> contents;
-        Bundles().front()->GetContents(contents);
+        StoredBundles().front()->GetContents(contents);
         ASSERT_EQ(kMillion, contents.size());
         EXPECT_EQ(VELString("x.exe"), contents.front().GetPath());
         EXPECT_EQ(VELString("PKG.EXE"), contents.back().GetPath());
@@ -344,8 +306,8 @@ TEST(HostileSize, AMillionEmptyBundlesStopAtTheFirst)
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
     EXPECT_FALSE(API()->IsCatalogParsed());
-    EXPECT_EQ(0u, Bundles().size());
-    EXPECT_EQ(1u, Components().size());
+    EXPECT_EQ(0u, StoredBundles().size());
+    EXPECT_EQ(1u, StoredComponents().size());
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(kExampleInventory)));
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
     EXPECT_EQ(QRM_KIT_FAILURE, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
@@ -360,9 +322,9 @@ TEST(HostileSize, ComponentWithAMillionEqualDevicesKeepsOne)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Components().size());
+    ASSERT_EQ(1u, StoredComponents().size());
     std::vector<QRMDevice*> devices;
-    Components().front()->GetSupportedDevices(devices);
+    StoredComponents().front()->GetSupportedDevices(devices);
     EXPECT_EQ(1u, devices.size());
     ExpectTheBIOSGetsTheComponent();
 }
@@ -394,7 +356,7 @@ TEST(HostileSize, InventoryRootWithAMillionUnknownChildrenReadsItsDevices)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    EXPECT_EQ(1u, Devices().size());
+    EXPECT_EQ(1u, StoredDevices().size());
     ExpectTheExampleCatalogUpdates(1);
 }
 
@@ -408,8 +370,8 @@ TEST(HostileSize, DeviceWithAMillionEqualApplicationsKeepsOne)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Devices().size());
-    EXPECT_EQ(1u, Applications(*Devices()[0]).size());
+    ASSERT_EQ(1u, StoredDevices().size());
+    EXPECT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
     ExpectTheExampleCatalogUpdates(1);
 }
 
@@ -428,9 +390,9 @@ TEST(HostileSize, DeviceWithAMillionTextsInOneLanguageKeepsTheFirst)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Devices().size());
+    ASSERT_EQ(1u, StoredDevices().size());
     std::vector<QRMDisplay> displays;
-    Devices()[0]->GetDisplayValues(displays);
+    StoredDevices()[0]->GetDisplayValues(displays);
     ASSERT_EQ(1u, displays.size());
     EXPECT_EQ(VELString("T0"), displays[0].GetValue());
     ExpectTheExampleCatalogUpdates(1);
@@ -482,11 +444,11 @@ TEST(HostileSize, EntriesWithAThousandAttributesAndChildrenAreReadWhole)
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("crowded.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    ASSERT_EQ(1u, Bundles().size());
-    EXPECT_EQ(VELString("B.00009"), Bundles().front()->GetBundleID());
-    EXPECT_EQ(QRM_BUNDLE_BTW64, Bundles().front()->GetBundleType());
-    ASSERT_EQ(1u, Components().size());
-    const QRMSoftwareComponent& component = *Components().front();
+    ASSERT_EQ(1u, StoredBundles().size());
+    EXPECT_EQ(VELString("B.00009"), StoredBundles().front()->GetBundleID());
+    EXPECT_EQ(QRM_BUNDLE_BTW64, StoredBundles().front()->GetBundleType());
+    ASSERT_EQ(1u, StoredComponents().size());
+    const QRMSoftwareComponent& component = *StoredComponents().front();
     EXPECT_EQ(VELString("2.4.1"), component.GetVendorVersion());
     EXPECT_EQ(VELString("BI"), component.GetCategory().GetCode());
     std::vector<QRMOperatingSystem> oses;
@@ -504,6 +466,6 @@ TEST(HostileSize, AChildWrittenTwiceAmongAThousandCountsAsMissing)
     const std::string xml = CrowdedCatalog(category + category);
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, API()->Parse(VELFile(dir.Write("crowded.xml", xml))));
     EXPECT_FALSE(API()->IsCatalogParsed());
-    EXPECT_EQ(1u, Bundles().size());
-    EXPECT_EQ(0u, Components().size());
+    EXPECT_EQ(1u, StoredBundles().size());
+    EXPECT_EQ(0u, StoredComponents().size());
 }

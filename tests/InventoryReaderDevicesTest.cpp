@@ -64,19 +64,12 @@ std::vector<std::string> DeviceDisplaysAfterAnEmptyRead(const TempDir& dir)
     return DeviceDisplays();
 }
 
-std::vector<QRMIApplication*> Applications(const QRMIDevice& device)
-{
-    std::vector<QRMIApplication*> applications;
-    device.GetApplications(applications);
-    return applications;
-}
-
 // The applications of the only stored device.
 std::vector<QRMIApplication*> ApplicationsOfTheOnlyDevice()
 {
     std::vector<QRMIDevice*> devices = Devices();
     EXPECT_EQ(1u, devices.size());
-    return devices.empty() ? std::vector<QRMIApplication*>() : Applications(*devices[0]);
+    return devices.empty() ? std::vector<QRMIApplication*>() : ApplicationsOf(*devices[0]);
 }
 
 std::vector<std::string> ApplicationDisplays(const std::vector<QRMIApplication*>& applications)
@@ -136,7 +129,7 @@ TEST(InventoryReaderDevice, EveryAttributeIsStoredWithPCIIdentifiersInHexadecima
     EXPECT_EQ(0x000C, device.GetSubDeviceID());
     EXPECT_EQ(0x1A2B, device.GetSubVendorID());
     EXPECT_EQ(2, device.GetComponentInstance());
-    EXPECT_TRUE(Applications(device).empty());
+    EXPECT_TRUE(ApplicationsOf(device).empty());
     EXPECT_TRUE(DisplayTexts(device).empty());
 }
 
@@ -207,7 +200,7 @@ TEST(InventoryReaderDevice, DisplayChildrenWithLangAreStoredInOrderOthersSkipped
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(1u, devices.size());
     EXPECT_EQ((Texts{{"en", "Network adapter"}, {"fr", "Carte r\xC3\xA9seau"}}), DisplayTexts(*devices[0]));
-    std::vector<QRMIApplication*> applications = Applications(*devices[0]);
+    std::vector<QRMIApplication*> applications = ApplicationsOf(*devices[0]);
     ASSERT_EQ(1u, applications.size());
     EXPECT_EQ((Texts{{"de", "Treiber"}}), DisplayTexts(*applications[0]));
 }
@@ -238,8 +231,8 @@ TEST(InventoryReaderDevice, DevicesSharingAnApplicationAreBothStored)
     ParseChildren(dir, device + device);
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
-    EXPECT_EQ(std::vector<std::string>{"Firmware"}, ApplicationDisplays(Applications(*devices[0])));
-    EXPECT_EQ(std::vector<std::string>{"Firmware"}, ApplicationDisplays(Applications(*devices[1])));
+    EXPECT_EQ(std::vector<std::string>{"Firmware"}, ApplicationDisplays(ApplicationsOf(*devices[0])));
+    EXPECT_EQ(std::vector<std::string>{"Firmware"}, ApplicationDisplays(ApplicationsOf(*devices[1])));
 }
 
 // ---------------------------------------------------------------------------
@@ -417,8 +410,8 @@ TEST(InventoryReaderApplication, ApplicationWithoutDisplayIsNotAddedButTheDevice
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
     EXPECT_EQ("Adapter", U8(devices[0]->GetDisplay()));
-    EXPECT_TRUE(Applications(*devices[0]).empty());
-    EXPECT_EQ(std::vector<std::string>{"Kept"}, ApplicationDisplays(Applications(*devices[1])));
+    EXPECT_TRUE(ApplicationsOf(*devices[0]).empty());
+    EXPECT_EQ(std::vector<std::string>{"Kept"}, ApplicationDisplays(ApplicationsOf(*devices[1])));
 }
 
 TEST(InventoryReaderApplication, ApplicationWithoutComponentTypeIsSkipped)
@@ -487,8 +480,8 @@ TEST(InventoryReaderApplication, SubComponentIDDoesNotCarryOverToTheNextDevice)
                            Device("Second", Application("componentType=\"FRMW\" version=\"1\" display=\"a\"")));
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
-    std::vector<QRMIApplication*> first = Applications(*devices[0]);
-    std::vector<QRMIApplication*> second = Applications(*devices[1]);
+    std::vector<QRMIApplication*> first = ApplicationsOf(*devices[0]);
+    std::vector<QRMIApplication*> second = ApplicationsOf(*devices[1]);
     ASSERT_EQ(1u, first.size());
     ASSERT_EQ(1u, second.size());
     EXPECT_EQ("S1", U8(first[0]->GetSubComponentID()));
@@ -508,13 +501,13 @@ TEST(InventoryReaderApplication, DisplayValuesAccumulateWithinADeviceAndTheEarli
                            Device("Next", Application("componentType=\"DRVR\" version=\"1\" display=\"a\"")));
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
-    std::vector<QRMIApplication*> applications = Applications(*devices[0]);
+    std::vector<QRMIApplication*> applications = ApplicationsOf(*devices[0]);
     ASSERT_EQ(3u, applications.size());
     EXPECT_EQ((Texts{{"en", "First English"}}), DisplayTexts(*applications[0]));
     EXPECT_EQ((Texts{{"en", "First English"}, {"fr", "Fran\xC3\xA7" "ais"}}), DisplayTexts(*applications[1]));
     EXPECT_EQ((Texts{{"en", "First English"}, {"fr", "Fran\xC3\xA7" "ais"}}), DisplayTexts(*applications[2]));
 
-    std::vector<QRMIApplication*> next = Applications(*devices[1]);
+    std::vector<QRMIApplication*> next = ApplicationsOf(*devices[1]);
     ASSERT_EQ(1u, next.size());
     EXPECT_TRUE(DisplayTexts(*next[0]).empty());
 }
@@ -558,7 +551,7 @@ TEST(InventoryReaderApplication, SBDLAndUnknownTypesKeepThePreviousTypeAcrossDev
     ASSERT_EQ(4u, devices.size());
     std::vector<QRMComponentTypeValueEnum> types;
     for (const QRMIDevice* device : devices) {
-        for (const QRMIApplication* application : Applications(*device)) {
+        for (const QRMIApplication* application : ApplicationsOf(*device)) {
             types.push_back(application->GetComponentType());
         }
     }
@@ -601,8 +594,8 @@ TEST(InventoryReaderApplication, ComponentTypeDoesNotCarryOverFromAnEarlierCall)
                                          Application("componentType=\"SBDL\" version=\"1\" display=\"b\"")))));
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
-    std::vector<QRMIApplication*> first = Applications(*devices[0]);
-    std::vector<QRMIApplication*> second = Applications(*devices[1]);
+    std::vector<QRMIApplication*> first = ApplicationsOf(*devices[0]);
+    std::vector<QRMIApplication*> second = ApplicationsOf(*devices[1]);
     ASSERT_EQ(1u, first.size());
     ASSERT_EQ(1u, second.size());
     EXPECT_EQ(QRM_COMPONENT_APP, first[0]->GetComponentType());
@@ -630,8 +623,8 @@ TEST(InventoryReaderApplication, ApplicationsBelongToTheirOwnDevice)
                                                 Application("componentType=\"DRVR\" version=\"3\" display=\"Three\"")));
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
-    EXPECT_EQ(std::vector<std::string>{"One"}, ApplicationDisplays(Applications(*devices[0])));
-    EXPECT_EQ((std::vector<std::string>{"Two", "Three"}), ApplicationDisplays(Applications(*devices[1])));
+    EXPECT_EQ(std::vector<std::string>{"One"}, ApplicationDisplays(ApplicationsOf(*devices[0])));
+    EXPECT_EQ((std::vector<std::string>{"Two", "Three"}), ApplicationDisplays(ApplicationsOf(*devices[1])));
 }
 
 // ---------------------------------------------------------------------------
@@ -668,7 +661,7 @@ TEST(InventoryReaderEncoding, UTF16LittleEndianInventoryReadsLikeItsUTF8Twin)
     EXPECT_EQ("Carte r\xC3\xA9seau", U8(devices[0]->GetDisplay()));
     EXPECT_EQ(32902, devices[0]->GetVendorID());
     EXPECT_EQ((Texts{{"fr", "Carte r\xC3\xA9seau"}}), DisplayTexts(*devices[0]));
-    std::vector<QRMIApplication*> applications = Applications(*devices[1]);
+    std::vector<QRMIApplication*> applications = ApplicationsOf(*devices[1]);
     ASSERT_EQ(1u, applications.size());
     EXPECT_EQ("Firmware \xE2\x82\xAC", U8(applications[0]->GetDisplay()));
     EXPECT_EQ("1.2", U8(applications[0]->GetVersion()));
@@ -698,7 +691,7 @@ TEST(InventoryReaderEncoding, UTF16LittleEndianInventoryReadsLikeItsUTF8Twin)
     EXPECT_EQ("Disk", U8(devices[2]->GetDisplay()));
     EXPECT_EQ(2, devices[2]->GetBus());
     EXPECT_EQ(DisplayTexts(*devices[1]), DisplayTexts(*devices[2]));
-    std::vector<QRMIApplication*> again = Applications(*devices[2]);
+    std::vector<QRMIApplication*> again = ApplicationsOf(*devices[2]);
     ASSERT_EQ(1u, again.size());
     EXPECT_TRUE(*applications[0] == *again[0]);
     EXPECT_EQ("Firmware \xE2\x82\xAC", U8(again[0]->GetDisplay()));

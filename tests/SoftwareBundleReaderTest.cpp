@@ -44,17 +44,10 @@ QRMKitReturnCode ParseEntries(const TempDir& dir, const std::string& entries)
     return API()->Parse(VELFile(dir.Write("catalog.xml", xml)));
 }
 
-std::vector<QRMSoftwareBundle*> Bundles()
-{
-    std::vector<QRMSoftwareBundle*> bundles;
-    API()->GetSoftwareBundles(bundles);
-    return bundles;
-}
-
 std::vector<std::string> BundleIDs()
 {
     std::vector<std::string> ids;
-    for (const QRMSoftwareBundle* bundle : Bundles()) {
+    for (const QRMSoftwareBundle* bundle : StoredBundles()) {
         ids.push_back(S(bundle->GetBundleID()));
     }
     return ids;
@@ -85,7 +78,7 @@ bool ParseSingleBundle(const TempDir& dir, const std::string& bundleXML, QRMSoft
         ADD_FAILURE() << "Parse returned " << result;
         return false;
     }
-    std::vector<QRMSoftwareBundle*> bundles = Bundles();
+    std::vector<QRMSoftwareBundle*> bundles = StoredBundles();
     if (bundles.size() != 1) {
         ADD_FAILURE() << "expected one bundle, found " << bundles.size();
         return false;
@@ -320,7 +313,7 @@ TEST(SoftwareBundleReader, ComponentTypeTextsMapToTheirCodes)
                              kName + "<ComponentType value=\"" + text + "\"/>" + kContents);
     }
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareBundle*> bundles = Bundles();
+    std::vector<QRMSoftwareBundle*> bundles = StoredBundles();
     ASSERT_EQ(6u, bundles.size());
     const QRMComponentTypeValueEnum expected[] = {QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW,
                                                   QRM_COMPONENT_BIOS, QRM_COMPONENT_APAC,
@@ -341,7 +334,7 @@ TEST(SoftwareBundleReader, UnknownComponentTypeTextGivesZero)
     }
     entries += BundleXML("", kName + "<ComponentType/>" + kContents);
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareBundle*> bundles = Bundles();
+    std::vector<QRMSoftwareBundle*> bundles = StoredBundles();
     ASSERT_EQ(5u, bundles.size());
     for (const QRMSoftwareBundle* bundle : bundles) {
         EXPECT_EQ(0, static_cast<int>(bundle->GetComponentType().GetValue()));
@@ -526,7 +519,7 @@ TEST(SoftwareBundleReader, BundleTypeTextsMapToTheirCodes)
         entries += BundleWith("", std::string("bundleType=\"") + text + "\"");
     }
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareBundle*> bundles = Bundles();
+    std::vector<QRMSoftwareBundle*> bundles = StoredBundles();
     ASSERT_EQ(6u, bundles.size());
     const QRMBundleTypeEnum expected[] = {QRM_BUNDLE_BTW32, QRM_BUNDLE_BTW64, QRM_BUNDLE_BTLX,
                                           QRM_BUNDLE_BTRPM, QRM_BUNDLE_BTDEB, QRM_BUNDLE_BTOSIND};
@@ -544,7 +537,7 @@ TEST(SoftwareBundleReader, UnknownBundleTypeTextGivesZero)
         entries += BundleWith("", std::string("bundleType=\"") + text + "\"");
     }
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareBundle*> bundles = Bundles();
+    std::vector<QRMSoftwareBundle*> bundles = StoredBundles();
     ASSERT_EQ(4u, bundles.size());
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_EQ(0, static_cast<int>(bundles[i]->GetBundleType())) << texts[i];
@@ -559,7 +552,7 @@ TEST(SoftwareBundleReader, TwoBundlesWithTheSameBundleIDAreBothAddedInOrder)
     std::string second = BundleXML("bundleID=\"SAME\" bundleType=\"BTLX\"",
                                    "<Name><Display lang=\"en\">Second</Display></Name>" + kType + kContents);
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, first + second));
-    std::vector<QRMSoftwareBundle*> bundles = Bundles();
+    std::vector<QRMSoftwareBundle*> bundles = StoredBundles();
     ASSERT_EQ(2u, bundles.size());
     EXPECT_EQ("SAME", S(bundles[0]->GetBundleID()));
     EXPECT_EQ("SAME", S(bundles[1]->GetBundleID()));
@@ -611,7 +604,7 @@ TEST(SoftwareBundleReaderFaults, AbortLeavesLaterComponentsAndInventoryComponent
     API()->GetInventoryComponents(inventory);
     ASSERT_EQ(1u, inventory.size());
     EXPECT_EQ("WIN", S(inventory[0].GetOSCode()));
-    EXPECT_TRUE(Bundles().empty());
+    EXPECT_TRUE(StoredBundles().empty());
 }
 
 TEST(SoftwareBundleReaderFaults, NameWithoutDisplaySkipsOnlyThatBundle)

@@ -48,17 +48,10 @@ QRMKitReturnCode ParseEntries(const TempDir& dir, const std::string& entries)
     return API()->Parse(VELFile(dir.Write("catalog.xml", xml)));
 }
 
-std::vector<QRMSoftwareComponent*> Components()
-{
-    std::vector<QRMSoftwareComponent*> components;
-    API()->GetSoftwareComponents(components);
-    return components;
-}
-
 std::vector<std::string> PackageIDs()
 {
     std::vector<std::string> ids;
-    for (const QRMSoftwareComponent* component : Components()) {
+    for (const QRMSoftwareComponent* component : StoredComponents()) {
         ids.push_back(S(component->GetPackageID()));
     }
     return ids;
@@ -103,7 +96,7 @@ bool ParseSingleComponent(const TempDir& dir, const std::string& componentXML,
         ADD_FAILURE() << "Parse returned " << result;
         return false;
     }
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     if (components.size() != 1) {
         ADD_FAILURE() << "expected one component, found " << components.size();
         return false;
@@ -241,7 +234,7 @@ TEST(SoftwareComponentReaderFaults, AbortKeepsEarlierBundlesAndLeavesLaterOnesUn
     API()->GetSoftwareBundles(bundles);
     ASSERT_EQ(1u, bundles.size());
     EXPECT_EQ("B1", S(bundles[0]->GetBundleID()));
-    EXPECT_TRUE(Components().empty());
+    EXPECT_TRUE(StoredComponents().empty());
 }
 
 TEST(SoftwareComponentReaderFaults, NameWithoutDisplaySkipsOnlyThatComponent)
@@ -279,7 +272,7 @@ TEST(SoftwareComponentReader, ComponentListedTwiceYieldsTwoEntries)
 {
     TempDir dir;
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, CatalogXML::Component("C1") + CatalogXML::Component("C1")));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(2u, components.size());
     EXPECT_NE(components[0], components[1]);
     EXPECT_TRUE(*components[0] == *components[1]);
@@ -440,7 +433,7 @@ TEST(SoftwareComponentReader, CriticalityValuesOneToThreeMapToLevels)
                                  std::string("packageID=\"P") + text + "\"");
     }
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(3u, components.size());
     EXPECT_EQ(QRM_CRITICALITY_LEVEL1, components[0]->GetCriticality().GetValue());
     EXPECT_EQ(QRM_CRITICALITY_LEVEL2, components[1]->GetCriticality().GetValue());
@@ -457,7 +450,7 @@ TEST(SoftwareComponentReader, OtherCriticalityValuesAreUnspecified)
     }
     entries += ComponentWith("<Criticality/>");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(6u, components.size());
     for (std::size_t i = 0; i < components.size(); ++i) {
         EXPECT_EQ(QRM_CRITICALITY_UNSPECIFIED, components[i]->GetCriticality().GetValue()) << "entry " << i;
@@ -495,7 +488,7 @@ TEST(SoftwareComponentReader, ComponentTypeTextsMapToTheirCodes)
                                 kName + "<ComponentType value=\"" + text + "\"/>" + kCategory + kDevices);
     }
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(6u, components.size());
     const QRMComponentTypeValueEnum expected[] = {QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW,
                                                   QRM_COMPONENT_BIOS, QRM_COMPONENT_APAC,
@@ -515,7 +508,7 @@ TEST(SoftwareComponentReader, LowerCaseOrUnknownComponentTypeGivesZero)
         entries += ComponentXML("", kName + "<ComponentType value=\"" + text + "\"/>" + kCategory + kDevices);
     }
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(4u, components.size());
     for (std::size_t i = 0; i < 4; ++i) {
         EXPECT_EQ(0, static_cast<int>(components[i]->GetComponentType().GetValue())) << texts[i];
@@ -581,7 +574,7 @@ TEST(SoftwareComponentReader, CategoryWithoutDisplayHasNoTexts)
     TempDir dir;
     std::string entries = ComponentWithCategory("<Category value=\"XX\"/>", "C1") + CatalogXML::Component("C2");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(2u, components.size());
     EXPECT_EQ("XX", S(components[0]->GetCategory().GetCode()));
     EXPECT_TRUE(Texts(components[0]->GetCategory()).empty());
@@ -649,7 +642,7 @@ TEST(SoftwareComponentReader, SupportedSystemsDisplayFlagIsFalseForZeroEmptyOrMi
                           ComponentWith("<SupportedSystems/>") +
                           ComponentWith("<SupportedSystems display=\"2\"/>");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(4u, components.size());
     EXPECT_FALSE(components[0]->GetSupportedSystems().GetDisplay());
     EXPECT_FALSE(components[1]->GetSupportedSystems().GetDisplay());
@@ -754,7 +747,7 @@ TEST(SoftwareComponentReader, ArchitectureCarryOverStartsAgainInEachComponent)
     std::string second = ComponentWith("<SupportedOperatingSystems><OS osArch=\"bogus\" osCode=\"A\"/>"
                                        "</SupportedOperatingSystems>");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, first + second));
-    std::vector<QRMSoftwareComponent*> components = Components();
+    std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(2u, components.size());
     std::vector<QRMOperatingSystem> list = OSesOf(components[1]->GetSupportedOperatingSystems());
     ASSERT_EQ(1u, list.size());
@@ -892,7 +885,7 @@ StoreCopy CopyStore()
     for (const QRMSoftwareBundle* bundle : bundles) {
         copy.bundles.push_back(*bundle);
     }
-    for (const QRMSoftwareComponent* component : Components()) {
+    for (const QRMSoftwareComponent* component : StoredComponents()) {
         copy.components.push_back(*component);
     }
     API()->GetInventoryComponents(copy.inventory);

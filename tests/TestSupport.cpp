@@ -98,19 +98,37 @@ std::size_t MemoryAllowance(std::size_t inputBytes, std::size_t factor)
 #endif
 }
 
-std::size_t ComponentCount()
+std::vector<QRMSoftwareComponent*> StoredComponents()
 {
     std::vector<QRMSoftwareComponent*> components;
     QRMKitAPI::Instance()->GetSoftwareComponents(components);
-    return components.size();
+    return components;
 }
 
-std::size_t BundleCount()
+std::vector<QRMSoftwareBundle*> StoredBundles()
 {
     std::vector<QRMSoftwareBundle*> bundles;
     QRMKitAPI::Instance()->GetSoftwareBundles(bundles);
-    return bundles.size();
+    return bundles;
 }
+
+std::vector<QRMIDevice*> StoredDevices()
+{
+    std::vector<QRMIDevice*> devices;
+    QRMKitAPI::Instance()->GetInventory(devices);
+    return devices;
+}
+
+std::vector<QRMIApplication*> ApplicationsOf(const QRMIDevice& device)
+{
+    std::vector<QRMIApplication*> applications;
+    device.GetApplications(applications);
+    return applications;
+}
+
+std::size_t ComponentCount() { return StoredComponents().size(); }
+std::size_t BundleCount() { return StoredBundles().size(); }
+std::size_t DeviceCount() { return StoredDevices().size(); }
 
 std::size_t CollectorCount()
 {
@@ -119,11 +137,14 @@ std::size_t CollectorCount()
     return collectors.size();
 }
 
-std::size_t DeviceCount()
+std::string Repeat(const std::string& text, std::size_t count)
 {
-    std::vector<QRMIDevice*> devices;
-    QRMKitAPI::Instance()->GetInventory(devices);
-    return devices.size();
+    std::string all;
+    all.reserve(text.size() * count);
+    for (std::size_t i = 0; i < count; ++i) {
+        all += text;
+    }
+    return all;
 }
 
 void ExpectNoCatalog()

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 // A fresh directory under the system's temporary directory, removed with
 // everything in it when the object goes.
@@ -27,6 +28,9 @@ public:
 private:
     std::string mPath;
 };
+
+// `text` written `count` times.
+std::string Repeat(const std::string& text, std::size_t count);
 
 // Encodes UTF-8 text as UTF-16 little or big endian with a byte-order mark.
 std::string ToUTF16LE(const std::string& utf8);
@@ -51,6 +55,13 @@ std::size_t PeakResidentBytes();
 // peak memory: a fixed allowance plus `factor` times the input, both
 // loosened in an AddressSanitizer build (shadow memory, quarantine).
 std::size_t MemoryAllowance(std::size_t inputBytes, std::size_t factor);
+
+// What the stores hold, in order: catalog components, bundles, inventory
+// devices; and a device's applications.
+std::vector<QRMSoftwareComponent*> StoredComponents();
+std::vector<QRMSoftwareBundle*> StoredBundles();
+std::vector<QRMIDevice*> StoredDevices();
+std::vector<QRMIApplication*> ApplicationsOf(const QRMIDevice& device);
 
 // How many entries the stores hold: catalog components, bundles, inventory
 // collectors, inventory devices.

@@ -149,12 +149,11 @@ TEST_F(AllocationFailure, CatalogReadFailsWithAReturnCodeWhereverMemoryRunsOut)
     EXPECT_EQ(bundles, BundleCount());
 }
 
-std::vector<std::string> StoredDevices()
+// The stored devices' accounts, in order.
+std::vector<std::string> DescribedDevices()
 {
-    std::vector<QRMIDevice*> devices;
-    QRMKitAPI::Instance()->GetInventory(devices);
     std::vector<std::string> described;
-    for (const QRMIDevice* device : devices) {
+    for (const QRMIDevice* device : StoredDevices()) {
         described.push_back(Describe(*device));
     }
     return described;
@@ -164,7 +163,7 @@ TEST_F(AllocationFailure, InventoryReadFailsWithAReturnCodeWhereverMemoryRunsOut
 {
     QRMKitAPI* api = QRMKitAPI::Instance();
     ASSERT_EQ(QRM_KIT_SUCCESS, api->ParseInventory(kInventory));
-    const std::vector<std::string> example = StoredDevices();
+    const std::vector<std::string> example = DescribedDevices();
     ASSERT_EQ(9u, example.size());
     // The inventory store keeps what every read added (a device with two
     // different applications is never a duplicate, even of itself), so each
@@ -187,7 +186,7 @@ TEST_F(AllocationFailure, InventoryReadFailsWithAReturnCodeWhereverMemoryRunsOut
         } else {
             ASSERT_EQ(QRM_KIT_SUCCESS, result) << "allocation " << n;
         }
-        const std::vector<std::string> stored = StoredDevices();
+        const std::vector<std::string> stored = DescribedDevices();
         ASSERT_GE(stored.size(), before);
         ASSERT_LE(stored.size(), before + example.size());
         for (const std::string& device : stored) {
