@@ -77,16 +77,35 @@ QRMOSArchitectureEnum InventoryArchitecture()
     return oses.empty() ? QRM_OS_ARCH_X64 : oses.front().GetArchitecture();
 }
 
+// The bundle type a "--bundle-type" text names (QRM_BUNDLE_BTW32 for
+// "auto"), or a ToolError for a text that names none.
+QRMBundleTypeEnum RequestedBundleType(const std::string& bundleType)
+{
+    QRMBundleTypeEnum type = QRM_BUNDLE_BTW32;
+    if (bundleType != "auto" && !QRMBundleTypeFromText(VELString(bundleType.c_str()), type)) {
+        throw ToolError("usage", "unknown bundle type \"" + bundleType + "\"");
+    }
+    return type;
+}
+
 }  // namespace
+
+std::string JsonText(const Json& document, int indent)
+{
+    return document.dump(indent, ' ', false, Json::error_handler_t::replace);
+}
 
 Json CollectUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
 {
-    QRMBundleTypeEnum type = QRM_BUNDLE_BTW32;
-    const bool automatic = bundleType == "auto";
-    if (!automatic && !QRMBundleTypeFromText(VELString(bundleType.c_str()), type)) {
-        throw ToolError("unknown bundle type \"" + bundleType + "\"");
-    }
+    RequestedBundleType(bundleType);
     LoadCatalog(catalog);
+    return EvaluateUpdates(catalog, inventory, bundleType);
+}
+
+Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
+{
+    QRMBundleTypeEnum type = RequestedBundleType(bundleType);
+    const bool automatic = bundleType == "auto";
     LoadInventory(inventory);
     QRMKitAPI* api = QRMKitAPI::Instance();
     const Json systemID = SystemID(api->GetSystemIDFromInventory());
@@ -101,13 +120,13 @@ Json CollectUpdates(const std::string& catalog, const std::string& inventory, co
             }
         }
         if (bundle == nullptr) {
-            throw ToolError(inventory + ": no bundle of any type in " + catalog + " applies to " +
+            throw ToolError("no-bundle", inventory + ": no bundle of any type in " + catalog + " applies to " +
                             SystemPhrase(systemID));
         }
     } else {
         bundle = api->GetApplicableBundle(type);
         if (bundle == nullptr) {
-            throw ToolError(inventory + ": no " + bundleType + " bundle in " + catalog + " applies to " +
+            throw ToolError("no-bundle", inventory + ": no " + bundleType + " bundle in " + catalog + " applies to " +
                             SystemPhrase(systemID));
         }
     }
@@ -115,7 +134,7 @@ Json CollectUpdates(const std::string& catalog, const std::string& inventory, co
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
     QRMKitReturnCode code = api->GetApplicableUpdates(updates, InventoryArchitecture(), type);
     if (code != QRM_KIT_SUCCESS) {
-        throw ToolError(inventory + ": the applicable updates could not be determined (" +
+        throw ToolError("evaluation-failed", inventory + ": the applicable updates could not be determined (" +
                         QRMKitReturnCodeName(code) + ")");
     }
     std::vector<QRMIDevice*> devices;
@@ -618,7 +637,7 @@ std::string FindCollector(const std::string& catalog, const std::string& osCode)
         known += (known.empty() ? "" : ", ") + Utf8(collector.GetOSCode());
     }
     if (!found) {
-        throw ToolError(catalog + ": no inventory collector for operating system code \"" + osCode + "\" (" +
+        throw ToolError("unknown-os-code", catalog + ": no inventory collector for operating system code \"" + osCode + "\" (" +
                         (known.empty() ? std::string("the catalog lists none") : "known codes: " + known) + ")");
     }
     // The catalog is parsed, so this lookup stays silent.
@@ -636,7 +655,7 @@ std::string CompareVersions(const std::string& first, const std::string& second)
     case -1: return first + " < " + second + "\n";
     default: break;
     }
-    throw ToolError("cannot compare \"" + first + "\" with \"" + second +
+    throw ToolError("not-comparable", "cannot compare \"" + first + "\" with \"" + second +
                     "\": only versions written in ASCII characters can be compared");
 }
 

@@ -13,8 +13,18 @@ namespace qrmtool {
 
 using Json = nlohmann::ordered_json;
 
+// The document as JSON text: indented by `indent` spaces, or on one line
+// when `indent` is negative. Text that is not valid UTF-8 is replaced, never
+// thrown on.
+std::string JsonText(const Json& document, int indent);
+
 // `bundleType` is "auto" or a bundle type text ("BTW64").
 Json CollectUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
+// The same document for a catalog the library has read already: reads only
+// the inventory. `catalog` is the path the document names. Every way of
+// asking for updates (one computer or a fleet) goes through this function,
+// so they cannot disagree.
+Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
 std::string RenderUpdates(const Json& document);
 
 Json CollectBundles(const std::string& catalog, const std::string& inventory);

@@ -37,10 +37,19 @@ std::string Describe(const std::string& path, QRMKitReturnCode code, bool catalo
            ")";
 }
 
+std::string CodeWord(const std::string& path, QRMKitReturnCode code, bool catalog)
+{
+    if (code == QRM_KIT_NOT_FOUND) {
+        std::error_code error;
+        return std::filesystem::is_directory(std::filesystem::path(path), error) ? "not-a-file" : "file-missing";
+    }
+    return catalog ? "not-a-catalog" : "not-an-inventory";
+}
+
 void Check(const std::string& path, QRMKitReturnCode code, bool catalog)
 {
     if (code != QRM_KIT_SUCCESS) {
-        throw ToolError(path + ": " + Describe(path, code, catalog));
+        throw ToolError(CodeWord(path, code, catalog), path + ": " + Describe(path, code, catalog));
     }
 }
 

@@ -8,14 +8,21 @@
 #include <array>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace qrmtool {
 
 // A failure to report to the user: one line, exit status 2. The message
-// names the file concerned (when there is one) and says what is wrong.
+// names the file concerned (when there is one) and says what is wrong; the
+// code is a short word for the kind of failure ("file-missing",
+// "not-an-inventory", "no-bundle", ...) that programs can test.
 class ToolError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    ToolError(std::string code, const std::string& message) : std::runtime_error(message), mCode(std::move(code)) {}
+    const std::string& Code() const { return mCode; }
+
+private:
+    std::string mCode;
 };
 
 // Parse the catalog / the inventory, or throw a ToolError that says why not.

@@ -3,8 +3,10 @@
 // applications, which bundle applies, and what the two documents hold.
 //
 // Exit status: 0 success, 1 bad usage, 2 the request could not be carried
-// out (a file missing or unreadable, no applicable bundle, ...).
+// out (a file missing or unreadable, no applicable bundle, ...); `fleet`
+// adds 3 (some inventories failed) and, with --check, 100 (newer packages).
 #include "Commands.h"
+#include "FleetCommand.h"
 #include "Library.h"
 
 #include <CLI/CLI.hpp>
@@ -60,7 +62,7 @@ void AddJson(CLI::App* command, Options& options)
 std::string Emit(const qrmtool::Json& document, bool json, std::string (*render)(const qrmtool::Json&))
 {
     if (json) {
-        return document.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
+        return qrmtool::JsonText(document, 2) + "\n";
     }
     return render(document);
 }
@@ -80,9 +82,11 @@ int Run(int argc, char** argv)
     app.footer("Example:\n  qrmkit updates --catalog catalog.xml --inventory inventory.xml\n\n"
                "Run 'qrmkit COMMAND --help' for the options of a command.\n"
                "Exit status: 0 success, 1 bad usage, 2 failure (file missing or unreadable, no applicable bundle, "
-               "...).");
+               "...); fleet: 3 some inventories failed, 100 with --check when a package is newer.");
 
     std::function<std::string()> action;
+    // A command that writes as it goes and chooses its own exit status.
+    std::function<int()> direct;
 
     CLI::App* updates = AddCommand(app, "updates", "List the packages that update the inventory's applications",
                                    "qrmkit updates --catalog catalog.xml --inventory inventory.xml --bundle-type BTW64");
@@ -158,11 +162,72 @@ int Run(int argc, char** argv)
     compare->callback(
         [&] { action = [&] { return qrmtool::CompareVersions(options.first, options.second); }; });
 
+    qrmtool::FleetCommand fleetCommand;
+    std::string shard;
+    CLI::App* fleet = AddCommand(
+        app, "fleet",
+        "Evaluate many inventories against one catalog: the catalog is read once and every inventory is "
+        "evaluated on its own, exactly as 'updates --json' would",
+        "qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/");
+    fleet->add_option("--catalog", fleetCommand.catalog, "The update catalog (XML)")->required()->type_name("FILE");
+    fleet
+        ->add_option("--bundle-type", fleetCommand.bundleType,
+                     "The bundle type to take the packages from; auto: for each computer, the first type, in the "
+                     "order listed, with a bundle for its system")
+        ->capture_default_str()
+        ->check(CLI::IsMember({"auto", "BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND"}))
+        ->type_name("TYPE");
+    fleet->add_option("--jobs,-j", fleetCommand.jobs, "Inventories evaluated at once (default: the number of processors)")
+        ->check(CLI::Range(1U, 1024U))
+        ->type_name("N");
+    fleet
+        ->add_option("--shard", shard,
+                     "Evaluate only the inventories at positions p (from 0, in input order) with p mod N = K-1, "
+                     "to spread one fleet over several runs; their jsonl outputs concatenate")
+        ->check([](const std::string& text) {
+            unsigned index = 0;
+            unsigned count = 0;
+            return qrmtool::ParseShard(text, index, count) ? std::string()
+                                                           : "takes K/N with 1 <= K <= N, not \"" + text + "\"";
+        })
+        ->type_name("K/N");
+    fleet
+        ->add_option("--format", fleetCommand.format,
+                     "jsonl: one JSON object per inventory and line; table: one line per computer and totals; "
+                     "html: a self-contained page (default: table on a terminal, jsonl otherwise)")
+        ->check(CLI::IsMember({"table", "jsonl", "html"}))
+        ->type_name("FORMAT");
+    fleet->add_option("--output,-o", fleetCommand.output, "Write the report to this file instead of standard output")
+        ->type_name("FILE");
+    fleet->add_flag("--check", fleetCommand.check,
+                    "Exit with 100 when every inventory was evaluated and at least one package is newer than what "
+                    "is installed");
+    fleet
+        ->add_option("--timeout", fleetCommand.timeoutSeconds,
+                     "Stop an inventory's evaluation after this many seconds and report it as failed (default: no "
+                     "limit)")
+        ->check(CLI::NonNegativeNumber)
+        ->type_name("SECONDS");
+    fleet->add_option("INVENTORY", fleetCommand.inventories,
+                      "Inventory files, or directories: every *.xml file directly in one, sorted by name")
+        ->required();
+    fleet->footer("Example:\n  qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/\n\n"
+                  "Exit status: 0 every inventory evaluated, 1 bad usage, 2 the catalog cannot be read (nothing is "
+                  "evaluated), 3 at least one inventory failed (the others are reported), 100 with --check: every "
+                  "inventory evaluated and at least one package is newer than what is installed.");
+    fleet->callback([&] {
+        qrmtool::ParseShard(shard.empty() ? "1/1" : shard, fleetCommand.shardIndex, fleetCommand.shardCount);
+        direct = [&] { return qrmtool::RunFleet(fleetCommand); };
+    });
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         int status = app.exit(error);
         return status == 0 ? 0 : kExitUsage;
+    }
+    if (direct) {
+        return direct();
     }
     if (!action) {
         return kExitUsage;

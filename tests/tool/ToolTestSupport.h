@@ -1,0 +1,188 @@
+// What the tests of the qrmkit tool share: running the built tool as a
+// child process with its output in files, a scratch directory per test, and
+// small text helpers.
+#ifndef QRMKIT_TOOL_TEST_SUPPORT_H
+#define QRMKIT_TOOL_TEST_SUPPORT_H
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace tooltest {
+
+
+inline const std::string kTool = QRMKIT_TOOL;
+inline const std::string kExamples = QRMKIT_EXAMPLES_DIR;
+inline const std::string kCatalog = kExamples + "/catalog.xml";
+inline const std::string kInventory = kExamples + "/inventory.xml";
+
+struct Result {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+inline std::string ReadFile(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+inline void WriteFile(const std::string& path, const std::string& text)
+{
+    std::ofstream out(path, std::ios::binary);
+    out << text;
+}
+
+inline std::string Replace(std::string text, const std::string& what, const std::string& with)
+{
+    std::size_t at = text.find(what);
+    if (at != std::string::npos) {
+        text.replace(at, what.size(), with);
+    }
+    return text;
+}
+
+inline std::vector<std::string> Lines(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+inline std::size_t CodePoints(const std::string& line)
+{
+    std::size_t count = 0;
+    for (char c : line) {
+        if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) {
+            ++count;
+        }
+    }
+    return count;
+}
+
+// The first line that contains every one of the texts ("" when none does).
+inline std::string LineWith(const std::string& text, const std::vector<std::string>& parts)
+{
+    for (const std::string& line : Lines(text)) {
+        bool all = true;
+        for (const std::string& part : parts) {
+            all = all && line.find(part) != std::string::npos;
+        }
+        if (all) {
+            return line;
+        }
+    }
+    return std::string();
+}
+
+inline bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+class ToolTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string pattern = (std::filesystem::temp_directory_path() / "qrmkit-tool-XXXXXX").string();
+        std::vector<char> buffer(pattern.begin(), pattern.end());
+        buffer.push_back('\0');
+        ASSERT_NE(mkdtemp(buffer.data()), nullptr);
+        mDir = buffer.data();
+    }
+
+    void TearDown() override
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(mDir, ignored);
+    }
+
+    std::string Path(const std::string& name) const { return mDir + "/" + name; }
+
+    // A copy of an example file with one text replaced, in the test's directory.
+    std::string Variant(const std::string& source, const std::string& name, const std::string& what,
+                        const std::string& with) const
+    {
+        std::string text = ReadFile(source);
+        EXPECT_TRUE(Contains(text, what)) << what;
+        std::string path = Path(name);
+        WriteFile(path, Replace(text, what, with));
+        return path;
+    }
+
+    // Runs the tool with the arguments; standard output and error go to
+    // files in the test's directory. Every run is checked for the library's
+    // console message, which the tool must never let through.
+    Result Run(const std::vector<std::string>& args)
+    {
+        const std::string outPath = Path("stdout.txt");
+        const std::string errPath = Path("stderr.txt");
+        pid_t child = fork();
+        if (child == 0) {
+            int out = open(outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            int err = open(errPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            if (out < 0 || err < 0 || dup2(out, 1) < 0 || dup2(err, 2) < 0) {
+                _exit(127);
+            }
+            std::vector<char*> argv;
+            argv.push_back(const_cast<char*>(kTool.c_str()));
+            for (const std::string& arg : args) {
+                argv.push_back(const_cast<char*>(arg.c_str()));
+            }
+            argv.push_back(nullptr);
+            execv(kTool.c_str(), argv.data());
+            _exit(127);
+        }
+        Result result;
+        int status = 0;
+        EXPECT_GT(child, 0);
+        EXPECT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFEXITED(status)) << "the tool did not exit normally";
+        result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+        result.out = ReadFile(outPath);
+        result.err = ReadFile(errPath);
+        EXPECT_FALSE(Contains(result.out, "Catalog not initialized"));
+        EXPECT_FALSE(Contains(result.err, "Catalog not initialized"));
+        return result;
+    }
+
+    static void ExpectFits(const std::string& text)
+    {
+        for (const std::string& line : Lines(text)) {
+            EXPECT_LE(CodePoints(line), 100U) << line;
+        }
+    }
+
+    // A failure: status 2, nothing on standard output, one line on standard
+    // error that starts with "qrmkit: " and contains every given text.
+    static void ExpectFailure(const Result& result, const std::vector<std::string>& parts)
+    {
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.out, "");
+        std::vector<std::string> lines = Lines(result.err);
+        ASSERT_EQ(lines.size(), 1U) << result.err;
+        EXPECT_EQ(lines[0].rfind("qrmkit: ", 0), 0U) << lines[0];
+        for (const std::string& part : parts) {
+            EXPECT_TRUE(Contains(lines[0], part)) << "\"" << part << "\" not in: " << lines[0];
+        }
+    }
+
+    std::string mDir;
+};
+
+}  // namespace tooltest
+
+#endif
