@@ -667,3 +667,40 @@ TEST_F(ApplicableUpdates, ExamplesMapEveryApplicationThatTheCatalogKnows)
         EXPECT_NE(components.end(), std::find(components.begin(), components.end(), entry.second));
     }
 }
+
+// ---- Paths changed by the caller ----
+
+// Reading indexes the components by file name; a caller holding a pointer to
+// a stored component may change its path, and the query must see that.
+TEST_F(ApplicableUpdates, APathChangedThroughAListedComponentIsSeen)
+{
+    Load(BundleXML("BTW64", "0A6B", {"NEW.EXE"}) + ComponentForID("PKG", "dir/OLD.EXE", "FRMW", "2.0", "159"),
+         kDevice159);
+    std::vector<QRMSoftwareComponent*> components = Components();
+    ASSERT_EQ(1u, components.size());
+    ASSERT_EQ(QRM_KIT_SUCCESS, components[0]->SetPath(VELString("dir/NEW.EXE")));
+    EXPECT_EQ((Described{{"firmware", "PKG"}}), Describe(Query()));
+}
+
+TEST_F(ApplicableUpdates, APathChangedThroughAnAnswerIsSeenByTheNextQuery)
+{
+    Load(BundleXML("BTW64", "0A6B", {"PKG.EXE", "OTHER.EXE"}) +
+             ComponentForID("PKG", "dir/PKG.EXE", "FRMW", "2.0", "159") +
+             ComponentForID("OTHER", "dir/ELSEWHERE.EXE", "FRMW", "1.0", "159"),
+         kDevice159);
+    Updates first = Query();
+    ASSERT_EQ((Described{{"firmware", "PKG"}}), Describe(first));
+    ASSERT_EQ(QRM_KIT_SUCCESS, first.begin()->second->SetPath(VELString("dir/UNLISTED.EXE")));
+    EXPECT_EQ((Described{}), Describe(Query()));
+    ASSERT_EQ(QRM_KIT_SUCCESS, Components()[1]->SetPath(VELString("OTHER.EXE")));
+    EXPECT_EQ((Described{{"firmware", "OTHER"}}), Describe(Query()));
+}
+
+TEST_F(ApplicableUpdates, ANewReadIndexesItsOwnComponents)
+{
+    Load(BundleXML("BTW64", "0A6B", {"A.EXE"}) + ComponentForID("A", "A.EXE", "FRMW", "2.0", "159"), kDevice159);
+    ASSERT_EQ((Described{{"firmware", "A"}}), Describe(Query()));
+    LoadCatalog(BundleXML("BTW64", "0A6B", {"B.EXE"}) + ComponentForID("B", "x/B.EXE", "FRMW", "2.0", "159") +
+                ComponentForID("A", "A.EXE", "FRMW", "3.0", "159"));
+    EXPECT_EQ((Described{{"firmware", "B"}}), Describe(Query()));
+}

@@ -90,31 +90,42 @@ struct CandidateIndex {
     std::unordered_map<unsigned long long, Candidates> byComponentID;
     std::unordered_map<unsigned long long, Candidates> byPCI;
 
-    CandidateIndex(const QRMSoftwareBundle& bundle, const QRMOwnedList<QRMSoftwareComponent>& components)
+    CandidateIndex(const QRMSoftwareBundle& bundle, const QRMManifest& manifest)
     {
-        // The bundle's package file names, each with the catalog's
-        // components of that file name in catalog order. Only names the
-        // bundle lists are indexed: the catalog may hold many more.
+        // The bundle's package entries, each with the catalog's components
+        // of that file name in catalog order.
         std::vector<QRMBundleContent> packages;
         bundle.GetContents(packages);
-        std::unordered_map<std::u16string_view, std::vector<QRMSoftwareComponent*>> byFileName;
-        byFileName.reserve(packages.size());
-        for (const QRMBundleContent& package : packages) {
-            byFileName[package.GetPathView()];
+        std::vector<std::vector<QRMSoftwareComponent*>> named(packages.size());
+        for (std::size_t i = 0; i < packages.size(); ++i) {
+            if (!manifest.FindByFileName(packages[i].GetPathView(), named[i])) {
+                named.clear();
+                break;
+            }
         }
-        for (QRMSoftwareComponent* component : components) {
-            std::u16string_view path = component->GetPathView();
-            std::size_t slash = path.rfind(u'/');
-            auto listed = byFileName.find(slash == std::u16string_view::npos ? path : path.substr(slash + 1));
-            if (listed != byFileName.end()) {
-                listed->second.push_back(component);
+        if (named.size() != packages.size()) {
+            // No index to trust: one pass over the catalog, looking up only
+            // the names the bundle lists (the catalog may hold many more).
+            std::unordered_map<std::u16string_view, std::vector<QRMSoftwareComponent*>> byFileName;
+            byFileName.reserve(packages.size());
+            for (const QRMBundleContent& package : packages) {
+                byFileName[package.GetPathView()];
+            }
+            for (QRMSoftwareComponent* component : manifest.SoftwareComponents()) {
+                auto listed = byFileName.find(qrm::FileNameOf(component->GetPathView()));
+                if (listed != byFileName.end()) {
+                    listed->second.push_back(component);
+                }
+            }
+            for (const QRMBundleContent& package : packages) {
+                // Every listed name was indexed above.
+                named.push_back(byFileName.find(package.GetPathView())->second);
             }
         }
         std::vector<QRMDevice*> devices;
         std::vector<QRMPCIInfo*> pciInfo;
-        for (const QRMBundleContent& package : packages) {
-            // Every listed name was indexed above.
-            for (QRMSoftwareComponent* component : byFileName.find(package.GetPathView())->second) {
+        for (const std::vector<QRMSoftwareComponent*>& components : named) {
+            for (QRMSoftwareComponent* component : components) {
                 const QRMComponentTypeValueEnum type = component->GetComponentType().GetValue();
                 devices.clear();
                 component->GetSupportedDevices(devices);
@@ -186,7 +197,7 @@ try {
     if (bundle == nullptr) {
         return QRM_KIT_FAILURE;
     }
-    const CandidateIndex index(*bundle, mCatalogManifest.SoftwareComponents());
+    const CandidateIndex index(*bundle, mCatalogManifest);
 
     // The answer is built apart and handed over at the end without
     // allocating, so a call that runs out of memory leaves the caller's map
@@ -232,6 +243,8 @@ try {
             }
         }
     }
+    // The answer hands out pointers to stored components.
+    mCatalogManifest.DistrustFileNames();
     // An entry the caller already had for an application is replaced; the
     // others stay.
     while (!found.empty()) {

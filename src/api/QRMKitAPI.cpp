@@ -126,6 +126,7 @@ try {
         child->Discard();
     }
     document.reset();
+    mCatalogManifest.TrustFileNames();
     return mCatalogManifest.SetParsed();
 } catch (const std::exception&) {
     // Out of memory: the call fails as a file with a missing element does:
@@ -140,6 +141,7 @@ VELString QRMKitAPI::GetBaseLocation() const
 
 void QRMKitAPI::GetSoftwareComponents(std::vector<QRMSoftwareComponent*>& components) const
 {
+    mCatalogManifest.DistrustFileNames();
     mCatalogManifest.SoftwareComponents().AppendPointersTo(components);
 }
 

@@ -2,6 +2,9 @@
 
 #include "model/QRMStore.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace {
 
 void CopyInto(const QRMManifest::TextMap& from, QRMManifest::TextMap& to)
@@ -21,6 +24,8 @@ QRMKitReturnCode QRMManifest::Clear()
     mSoftwareComponents.Clear();
     mSoftwareBundles.Clear();
     mSpareComponents.Clear();
+    mFileNames.clear();
+    mFileNamesTrusted = false;
     mBaseLocation = VELString();
     mReleaseID = VELString();
     mVersion = VELString();
@@ -45,11 +50,51 @@ QRMKitReturnCode QRMManifest::SetParsed() { return qrm::Store(mParsed, true); }
 
 bool QRMManifest::IsParsed() const { return mParsed; }
 
+namespace {
+
+std::uint32_t FileNameHash(std::u16string_view fileName)
+{
+    return static_cast<std::uint32_t>(std::hash<std::u16string_view>()(fileName));
+}
+
+}  // namespace
+
 QRMKitReturnCode QRMManifest::AddSoftwareComponent(std::unique_ptr<QRMSoftwareComponent> component)
 {
-    mSoftwareComponents.Append(std::move(component));
+    const std::uint32_t hash = FileNameHash(qrm::FileNameOf(component->GetPathView()));
+    QRMSoftwareComponent* stored = mSoftwareComponents.Append(std::move(component));
+    // Should this fail, the read fails and the index is never trusted.
+    mFileNames.push_back({hash, static_cast<std::uint32_t>(mFileNames.size()), stored});
     return QRM_KIT_SUCCESS;
 }
+
+bool QRMManifest::FindByFileName(std::u16string_view fileName, std::vector<QRMSoftwareComponent*>& components) const
+{
+    if (!mFileNamesTrusted) {
+        return false;
+    }
+    const std::uint32_t hash = FileNameHash(fileName);
+    auto first = std::lower_bound(mFileNames.begin(), mFileNames.end(), hash,
+                                  [](const FileNameEntry& entry, std::uint32_t value) { return entry.hash < value; });
+    for (auto entry = first; entry != mFileNames.end() && entry->hash == hash; ++entry) {
+        if (qrm::FileNameOf(entry->component->GetPathView()) == fileName) {
+            components.push_back(entry->component);
+        }
+    }
+    return true;
+}
+
+void QRMManifest::TrustFileNames()
+{
+    // Places are unique, so no two entries tie: equal names keep catalog
+    // order without a stable sort's buffer.
+    std::sort(mFileNames.begin(), mFileNames.end(), [](const FileNameEntry& a, const FileNameEntry& b) {
+        return a.hash != b.hash ? a.hash < b.hash : a.place < b.place;
+    });
+    mFileNamesTrusted = true;
+}
+
+void QRMManifest::DistrustFileNames() const { mFileNamesTrusted = false; }
 
 QRMKitReturnCode QRMManifest::AddSoftwareBundle(std::unique_ptr<QRMSoftwareBundle> bundle)
 {

@@ -12,9 +12,24 @@
 #include "VELString.h"
 #include "VELTime.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <memory>
+#include <string_view>
 #include <vector>
+
+namespace qrm {
+
+// A package path's file name: the text after the last "/", or the whole
+// path when it has none.
+inline std::u16string_view FileNameOf(std::u16string_view path)
+{
+    const std::size_t slash = path.rfind(u'/');
+    return slash == std::u16string_view::npos ? path : path.substr(slash + 1);
+}
+
+}  // namespace qrm
 
 class QRMManifest {
 public:
@@ -58,6 +73,19 @@ public:
     void GetCategoryAcronymMap(TextMap& acronyms) const;
 
     const QRMOwnedList<QRMSoftwareComponent>& SoftwareComponents() const;
+
+    // The stored components whose path has the file name `fileName`, in
+    // catalog order, appended to `components`: true when the index of file
+    // names made while reading answered. It answers from the end of a
+    // successful read until the first pointer to a stored component leaves
+    // the library (a caller may change a path through it); after that, and
+    // before, it returns false and the caller reads the paths itself.
+    bool FindByFileName(std::u16string_view fileName, std::vector<QRMSoftwareComponent*>& components) const;
+    // Called when a read has stored every component: the index answers from
+    // now on.
+    void TrustFileNames();
+    // Called whenever a pointer to a stored component is handed out.
+    void DistrustFileNames() const;
     const QRMOwnedList<QRMSoftwareBundle>& SoftwareBundles() const;
     const QRMOwnedList<QRMInventoryComponent>& InventoryComponents() const;
 
@@ -65,6 +93,16 @@ private:
     QRMOwnedList<QRMSoftwareComponent> mSoftwareComponents;
     QRMOwnedList<QRMSoftwareBundle> mSoftwareBundles;
     QRMOwnedList<QRMInventoryComponent> mInventoryComponents;
+    // Every stored component under (32 bits of) the hash of its file name
+    // and its place in the catalog; in catalog order until TrustFileNames
+    // sorts it by hash, then place.
+    struct FileNameEntry {
+        std::uint32_t hash;
+        std::uint32_t place;
+        QRMSoftwareComponent* component;
+    };
+    std::vector<FileNameEntry> mFileNames;
+    mutable bool mFileNamesTrusted = false;
     TextMap mCategoryValues;
     TextMap mCategoryAcronyms;
     // A second component list that nothing fills; Clear releases it too.

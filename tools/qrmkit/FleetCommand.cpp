@@ -7,6 +7,7 @@
 
 #include <QRMKit.h>
 
+#include <malloc.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -116,6 +117,10 @@ int RunFleet(const FleetCommand& command)
         }
         return kExitFailure;
     }
+
+    // Reading left free memory behind (the parsed document); giving it back
+    // makes every fork cheaper and the children's share of memory smaller.
+    malloc_trim(0);
 
     const std::vector<FleetInput> inputs =
         ShardOf(ListFleet(command.inventories), command.shardIndex, command.shardCount);
