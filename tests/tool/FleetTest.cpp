@@ -210,7 +210,7 @@ protected:
     std::string BrowserDom(const std::string& page, const std::string& fragment = "")
     {
         const std::string domPath = Path("dom.html");
-        const std::string command = "chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run "
+        const std::string command = "timeout 120 chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run "
                                     "--disable-background-networking --disable-component-update --disable-sync "
                                     "--user-data-dir=" +
                                     Path("profile") + " --dump-dom 'file://" + page + fragment + "' > " + domPath +
@@ -586,6 +586,43 @@ TEST_F(FleetTest, ProgressIsShownOnATerminalAndOnlyThere)
     EXPECT_TRUE(Contains(screen, "\rqrmkit fleet: 12/12 inventories")) << screen;
     EXPECT_TRUE(Contains(screen, "/s")) << screen;
     EXPECT_EQ(Lines(ReadFile(Path("out.jsonl"))).size(), 12U);
+}
+
+TEST_F(FleetTest, TableIsTheDefaultOnATerminalAndJsonLinesElsewhere)
+{
+    int terminal = -1;
+    pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        execl(kTool.c_str(), kTool.c_str(), "fleet", "--catalog", kCatalog.c_str(), kInventory.c_str(),
+              static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    std::string screen;
+    char buffer[4096];
+    for (ssize_t count; (count = read(terminal, buffer, sizeof buffer)) > 0;) {
+        screen.append(buffer, static_cast<std::size_t>(count));
+    }
+    close(terminal);
+    EXPECT_EQ(ExitStatus(child), 0);
+    EXPECT_TRUE(Contains(screen, "HIGHEST CRIT")) << screen;
+    EXPECT_FALSE(Contains(screen, "{\"inventory\"")) << screen;
+
+    Result piped = Run({"fleet", "--catalog", kCatalog, kInventory});
+    EXPECT_EQ(ParseLines(piped.out).size(), 1U);
+}
+
+TEST_F(FleetTest, HelpGivesTheExitStatuses)
+{
+    Result help = Run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(Contains(help.out, "fleet: 3 some inventories failed, 100 with --check")) << help.out;
+    Result fleetHelp = Run({"fleet", "--help"});
+    EXPECT_EQ(fleetHelp.status, 0);
+    for (const char* text : {"0 every inventory evaluated", "1 bad usage", "2 the catalog cannot be read",
+                             "3 at least one inventory failed", "100 with --check"}) {
+        EXPECT_TRUE(Contains(fleetHelp.out, text)) << text;
+    }
 }
 
 // The page as headless Chromium builds it: the table of computers is made
