@@ -176,27 +176,6 @@ protected:
         }
     }
 
-    // Starts the tool without waiting for it.
-    pid_t Start(const std::vector<std::string>& args, const std::string& outPath, const std::string& errPath)
-    {
-        pid_t child = fork();
-        if (child == 0) {
-            int out = open(outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-            int err = open(errPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-            if (out < 0 || err < 0 || dup2(out, 1) < 0 || dup2(err, 2) < 0) {
-                _exit(127);
-            }
-            std::vector<char*> argv{const_cast<char*>(kTool.c_str())};
-            for (const std::string& arg : args) {
-                argv.push_back(const_cast<char*>(arg.c_str()));
-            }
-            argv.push_back(nullptr);
-            execv(kTool.c_str(), argv.data());
-            _exit(127);
-        }
-        return child;
-    }
-
     static int ExitStatus(pid_t pid)
     {
         int status = 0;
@@ -229,6 +208,53 @@ protected:
             inventories.push_back(dom.substr(start, dom.find('"', start) - start));
         }
         return inventories;
+    }
+
+    // Runs the tool on a terminal of its own (standard output too, unless
+    // `outPath` names a file for it) and gives what the terminal showed.
+    std::string RunOnTerminal(const std::vector<std::string>& args, const std::string& outPath, int& status)
+    {
+        int terminal = -1;
+        pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+        if (child == 0) {
+            int out = outPath.empty() ? 1 : open(outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            if (out < 0 || dup2(out, 1) < 0) {
+                _exit(127);
+            }
+            ExecTool(args);
+        }
+        EXPECT_GE(child, 0);
+        std::string screen;
+        char buffer[4096];
+        for (ssize_t count; (count = read(terminal, buffer, sizeof buffer)) > 0;) {
+            screen.append(buffer, static_cast<std::size_t>(count));
+        }
+        close(terminal);
+        status = ExitStatus(child);
+        return screen;
+    }
+
+    // Runs a fleet of one job over a slow inventory (written to slow.xml)
+    // followed by `inventories`, kills the child evaluating the slow one
+    // with `signal`, and gives the fleet's exit status. Output goes to
+    // out.txt and err.txt.
+    int KillTheFirstChild(const std::vector<std::string>& inventories, int signal)
+    {
+        WriteFile(Path("slow.xml"), SlowInventory(60000));
+        std::vector<std::string> args = {"fleet", "--catalog", kCatalog, "--jobs", "1"};
+        args.insert(args.end(), inventories.begin(), inventories.end());
+        pid_t tool = StartTool(args, Path("out.txt"), Path("err.txt"));
+        // With one job, the first child is the one reading the slow inventory.
+        std::vector<pid_t> children;
+        for (int tries = 0; tries < 500 && children.empty(); ++tries) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            children = Children(tool);
+        }
+        EXPECT_EQ(children.size(), 1U);
+        if (children.size() == 1U) {
+            EXPECT_EQ(kill(children[0], signal), 0);
+        }
+        return ExitStatus(tool);
     }
 
     // The children of a process, from /proc.
@@ -411,20 +437,8 @@ TEST_F(FleetTest, BadShardsAndJobsAreUsageErrors)
 TEST_F(FleetTest, AChildKilledByASignalIsThatInventorysErrorAndTheRunGoesOn)
 {
     const std::string slow = Path("slow.xml");
-    WriteFile(slow, SlowInventory(60000));
-    const std::string out = Path("out.txt");
-    pid_t tool = Start({"fleet", "--catalog", kCatalog, "--jobs", "1", slow, kInventory}, out, Path("err.txt"));
-    // With one job, the first child is the one reading the slow inventory.
-    std::vector<pid_t> children;
-    for (int tries = 0; tries < 500 && children.empty(); ++tries) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        children = Children(tool);
-    }
-    ASSERT_EQ(children.size(), 1U);
-    ASSERT_EQ(kill(children[0], SIGSEGV), 0);
-    EXPECT_EQ(ExitStatus(tool), 3);
-
-    std::vector<Json> lines = ParseLines(ReadFile(out));
+    EXPECT_EQ(KillTheFirstChild({slow, kInventory}, SIGSEGV), 3);
+    std::vector<Json> lines = ParseLines(ReadFile(Path("out.txt")));
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0]["inventory"], slow);
     EXPECT_EQ(lines[0]["error"]["code"], "process-died");
@@ -435,17 +449,7 @@ TEST_F(FleetTest, AChildKilledByASignalIsThatInventorysErrorAndTheRunGoesOn)
 
 TEST_F(FleetTest, AChildKilledOutrightIsReportedAsPossiblyOutOfMemory)
 {
-    const std::string slow = Path("slow.xml");
-    WriteFile(slow, SlowInventory(60000));
-    pid_t tool = Start({"fleet", "--catalog", kCatalog, "--jobs", "1", slow}, Path("out.txt"), Path("err.txt"));
-    std::vector<pid_t> children;
-    for (int tries = 0; tries < 500 && children.empty(); ++tries) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        children = Children(tool);
-    }
-    ASSERT_EQ(children.size(), 1U);
-    ASSERT_EQ(kill(children[0], SIGKILL), 0);
-    EXPECT_EQ(ExitStatus(tool), 3);
+    EXPECT_EQ(KillTheFirstChild({Path("slow.xml")}, SIGKILL), 3);
     std::vector<Json> lines = ParseLines(ReadFile(Path("out.txt")));
     ASSERT_EQ(lines.size(), 1U);
     EXPECT_TRUE(Contains(lines[0]["error"]["message"], "killed by signal 9")) << lines[0].dump();
@@ -563,26 +567,9 @@ TEST_F(FleetTest, ProgressIsShownOnATerminalAndOnlyThere)
     Result piped = Run({"fleet", "--catalog", kCatalog, dir});
     EXPECT_EQ(piped.err, "");
 
-    int terminal = -1;
-    pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        // Standard error stays on the terminal; the report goes to a file.
-        int out = open(Path("out.jsonl").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        if (out < 0 || dup2(out, 1) < 0) {
-            _exit(127);
-        }
-        execl(kTool.c_str(), kTool.c_str(), "fleet", "--catalog", kCatalog.c_str(), dir.c_str(),
-              static_cast<char*>(nullptr));
-        _exit(127);
-    }
-    std::string screen;
-    char buffer[4096];
-    for (ssize_t count; (count = read(terminal, buffer, sizeof buffer)) > 0;) {
-        screen.append(buffer, static_cast<std::size_t>(count));
-    }
-    close(terminal);
-    EXPECT_EQ(ExitStatus(child), 3);
+    int status = -1;
+    const std::string screen = RunOnTerminal({"fleet", "--catalog", kCatalog, dir}, Path("out.jsonl"), status);
+    EXPECT_EQ(status, 3);
     EXPECT_TRUE(Contains(screen, "\rqrmkit fleet: 12/12 inventories")) << screen;
     EXPECT_TRUE(Contains(screen, "/s")) << screen;
     EXPECT_EQ(Lines(ReadFile(Path("out.jsonl"))).size(), 12U);
@@ -590,21 +577,9 @@ TEST_F(FleetTest, ProgressIsShownOnATerminalAndOnlyThere)
 
 TEST_F(FleetTest, TableIsTheDefaultOnATerminalAndJsonLinesElsewhere)
 {
-    int terminal = -1;
-    pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        execl(kTool.c_str(), kTool.c_str(), "fleet", "--catalog", kCatalog.c_str(), kInventory.c_str(),
-              static_cast<char*>(nullptr));
-        _exit(127);
-    }
-    std::string screen;
-    char buffer[4096];
-    for (ssize_t count; (count = read(terminal, buffer, sizeof buffer)) > 0;) {
-        screen.append(buffer, static_cast<std::size_t>(count));
-    }
-    close(terminal);
-    EXPECT_EQ(ExitStatus(child), 0);
+    int status = -1;
+    const std::string screen = RunOnTerminal({"fleet", "--catalog", kCatalog, kInventory}, "", status);
+    EXPECT_EQ(status, 0);
     EXPECT_TRUE(Contains(screen, "HIGHEST CRIT")) << screen;
     EXPECT_FALSE(Contains(screen, "{\"inventory\"")) << screen;
 

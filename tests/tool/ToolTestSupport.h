@@ -123,13 +123,10 @@ protected:
         return path;
     }
 
-    // Runs the tool with the arguments; standard output and error go to
-    // files in the test's directory. Every run is checked for the library's
-    // console message, which the tool must never let through.
-    Result Run(const std::vector<std::string>& args)
+    // Starts the tool with the arguments, standard output and error going
+    // to the files named, without waiting for it.
+    static pid_t StartTool(const std::vector<std::string>& args, const std::string& outPath, const std::string& errPath)
     {
-        const std::string outPath = Path("stdout.txt");
-        const std::string errPath = Path("stderr.txt");
         pid_t child = fork();
         if (child == 0) {
             int out = open(outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
@@ -137,15 +134,32 @@ protected:
             if (out < 0 || err < 0 || dup2(out, 1) < 0 || dup2(err, 2) < 0) {
                 _exit(127);
             }
-            std::vector<char*> argv;
-            argv.push_back(const_cast<char*>(kTool.c_str()));
-            for (const std::string& arg : args) {
-                argv.push_back(const_cast<char*>(arg.c_str()));
-            }
-            argv.push_back(nullptr);
-            execv(kTool.c_str(), argv.data());
-            _exit(127);
+            ExecTool(args);
         }
+        return child;
+    }
+
+    // In a child process: becomes the tool with the arguments.
+    [[noreturn]] static void ExecTool(const std::vector<std::string>& args)
+    {
+        std::vector<char*> argv;
+        argv.push_back(const_cast<char*>(kTool.c_str()));
+        for (const std::string& arg : args) {
+            argv.push_back(const_cast<char*>(arg.c_str()));
+        }
+        argv.push_back(nullptr);
+        execv(kTool.c_str(), argv.data());
+        _exit(127);
+    }
+
+    // Runs the tool with the arguments; standard output and error go to
+    // files in the test's directory. Every run is checked for the library's
+    // console message, which the tool must never let through.
+    Result Run(const std::vector<std::string>& args)
+    {
+        const std::string outPath = Path("stdout.txt");
+        const std::string errPath = Path("stderr.txt");
+        pid_t child = StartTool(args, outPath, errPath);
         Result result;
         int status = 0;
         EXPECT_GT(child, 0);

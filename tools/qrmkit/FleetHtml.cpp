@@ -252,6 +252,7 @@ public:
     {
         const Json line = Json::parse(result.line);
         const ComputerSummary computer = Summarize(line);
+        mTotals.Add(computer);
         Json entry;
         entry["inventory"] = computer.inventory;
         entry["system"] = computer.systemID;
@@ -289,17 +290,11 @@ public:
         entry["pending"] = std::move(pending);
         mComputers.push_back(std::move(entry));
         ++mByCriticality[computer.highestCriticality.empty() ? "none" : computer.highestCriticality];
-        ++mEvaluated;
-        mWithPending += computer.newer > 0 ? 1 : 0;
-        mNewer += computer.newer;
-        mSame += computer.same;
-        mOlder += computer.older;
-        mUnknown += computer.unknown;
     }
 
     void Finish() override
     {
-        const std::size_t failed = mComputers.size() - mEvaluated;
+        const FleetTotals& t = mTotals;
         std::string out = "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n";
         out += "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; "
                "style-src 'unsafe-inline'; script-src 'unsafe-inline'; img-src data:\">\n";
@@ -310,9 +305,9 @@ public:
 
         out += "<section class=\"totals\" id=\"totals\">\n";
         const std::vector<std::pair<std::string, std::size_t>> totals = {
-            {"computers", mComputers.size()}, {"evaluated", mEvaluated},     {"failed", failed},
-            {"with pending updates", mWithPending}, {"pending packages", mNewer}, {"same version", mSame},
-            {"older in catalog", mOlder},    {"unknown order", mUnknown}};
+            {"computers", t.evaluated + t.failed}, {"evaluated", t.evaluated},   {"failed", t.failed},
+            {"with pending updates", t.withNewer}, {"pending packages", t.newer}, {"same version", t.same},
+            {"older in catalog", t.older},         {"unknown order", t.unknown}};
         for (const auto& total : totals) {
             out += "<div class=\"total\" data-total=\"" + Escape(total.first) + "\"><b>" +
                    std::to_string(total.second) + "</b>" + Escape(total.first) + "</div>\n";
@@ -387,12 +382,7 @@ private:
     Json mComputers = Json::array();
     std::map<std::string, std::size_t> mByCriticality;
     std::map<std::string, std::size_t> mByCategory;
-    std::size_t mEvaluated = 0;
-    std::size_t mWithPending = 0;
-    std::size_t mNewer = 0;
-    std::size_t mSame = 0;
-    std::size_t mOlder = 0;
-    std::size_t mUnknown = 0;
+    FleetTotals mTotals;
 };
 
 }  // namespace

@@ -50,8 +50,8 @@ public:
     void Add(const FleetResult& result) override
     {
         const ComputerSummary computer = Summarize(Json::parse(result.line));
+        mTotals.Add(computer);
         if (!computer.errorCode.empty()) {
-            ++mFailed;
             mTable.AddRow({"-", computer.inventory, "", "", "", "", "failed"});
             // The row names the inventory already; the message need not.
             std::string message = computer.errorMessage;
@@ -64,12 +64,6 @@ public:
         mTable.AddRow({computer.systemID.empty() ? "-" : computer.systemID, computer.inventory,
                        Count(computer.newer), Count(computer.same), Count(computer.older), Count(computer.unknown),
                        computer.highestCriticality.empty() ? "none" : computer.highestCriticality});
-        ++mEvaluated;
-        mWithNewer += computer.newer > 0 ? 1 : 0;
-        mNewer += computer.newer;
-        mSame += computer.same;
-        mOlder += computer.older;
-        mUnknown += computer.unknown;
     }
 
     void Finish() override
@@ -79,11 +73,12 @@ public:
                               kMaxWidth) +
                           "\n\n";
         out += mTable.Render(kMaxWidth);
-        out += "\n" + Count(mEvaluated + mFailed) + " inventories: " + Count(mEvaluated) + " evaluated (" +
-               Count(mWithNewer) + " with newer packages), " + Count(mFailed) + " failed.\n";
-        out += "Updates: " + Count(mNewer) + " newer, " + Count(mSame) + " same, " + Count(mOlder) + " older, " +
-               Count(mUnknown) + " unknown.\n";
-        if (mEvaluated > 0) {
+        const FleetTotals& t = mTotals;
+        out += "\n" + Count(t.evaluated + t.failed) + " inventories: " + Count(t.evaluated) + " evaluated (" +
+               Count(t.withNewer) + " with newer packages), " + Count(t.failed) + " failed.\n";
+        out += "Updates: " + Count(t.newer) + " newer, " + Count(t.same) + " same, " + Count(t.older) + " older, " +
+               Count(t.unknown) + " unknown.\n";
+        if (t.evaluated > 0) {
             out += "NEWER: packages newer than what is installed; HIGHEST CRIT: the highest criticality among them.\n";
         }
         mWrite(out);
@@ -93,16 +88,24 @@ private:
     FleetHeader mHeader;
     FleetWriter mWrite;
     Table mTable;
-    std::size_t mEvaluated = 0;
-    std::size_t mFailed = 0;
-    std::size_t mWithNewer = 0;
-    std::size_t mNewer = 0;
-    std::size_t mSame = 0;
-    std::size_t mOlder = 0;
-    std::size_t mUnknown = 0;
+    FleetTotals mTotals;
 };
 
 }  // namespace
+
+void FleetTotals::Add(const ComputerSummary& computer)
+{
+    if (!computer.errorCode.empty()) {
+        ++failed;
+        return;
+    }
+    ++evaluated;
+    withNewer += computer.newer > 0 ? 1 : 0;
+    newer += computer.newer;
+    same += computer.same;
+    older += computer.older;
+    unknown += computer.unknown;
+}
 
 ComputerSummary Summarize(const Json& result)
 {

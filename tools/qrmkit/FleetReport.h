@@ -45,6 +45,19 @@ struct ComputerSummary {
 
 ComputerSummary Summarize(const Json& result);
 
+// What the table and the page total over the computers.
+struct FleetTotals {
+    std::size_t evaluated = 0;
+    std::size_t failed = 0;
+    std::size_t withNewer = 0;
+    std::size_t newer = 0;
+    std::size_t same = 0;
+    std::size_t older = 0;
+    std::size_t unknown = 0;
+
+    void Add(const ComputerSummary& computer);
+};
+
 class FleetReport {
 public:
     virtual ~FleetReport() = default;

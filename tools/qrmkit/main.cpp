@@ -42,9 +42,19 @@ CLI::App* AddCommand(CLI::App& app, const char* name, const char* description, c
     return command;
 }
 
-void AddCatalog(CLI::App* command, Options& options)
+void AddCatalog(CLI::App* command, std::string& catalog)
 {
-    command->add_option("--catalog", options.catalog, "The update catalog (XML)")->required()->type_name("FILE");
+    command->add_option("--catalog", catalog, "The update catalog (XML)")->required()->type_name("FILE");
+}
+
+void AddBundleType(CLI::App* command, std::string& bundleType, const char* automatic)
+{
+    command
+        ->add_option("--bundle-type", bundleType,
+                     std::string("The bundle type to take the packages from; auto: ") + automatic)
+        ->capture_default_str()
+        ->check(CLI::IsMember({"auto", "BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND"}))
+        ->type_name("TYPE");
 }
 
 void AddInventory(CLI::App* command, Options& options)
@@ -90,15 +100,9 @@ int Run(int argc, char** argv)
 
     CLI::App* updates = AddCommand(app, "updates", "List the packages that update the inventory's applications",
                                    "qrmkit updates --catalog catalog.xml --inventory inventory.xml --bundle-type BTW64");
-    AddCatalog(updates, options);
+    AddCatalog(updates, options.catalog);
     AddInventory(updates, options);
-    updates
-        ->add_option("--bundle-type", options.bundleType,
-                     "The bundle type to take the packages from; auto: the first type, in the order "
-                     "listed, with a bundle for this system")
-        ->capture_default_str()
-        ->check(CLI::IsMember({"auto", "BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND"}))
-        ->type_name("TYPE");
+    AddBundleType(updates, options.bundleType, "the first type, in the order listed, with a bundle for this system");
     AddJson(updates, options);
     updates->callback([&] {
         action = [&] {
@@ -109,7 +113,7 @@ int Run(int argc, char** argv)
 
     CLI::App* bundle = AddCommand(app, "bundle", "Show the applicable bundle of every bundle type",
                                   "qrmkit bundle --catalog catalog.xml --inventory inventory.xml");
-    AddCatalog(bundle, options);
+    AddCatalog(bundle, options.catalog);
     AddInventory(bundle, options);
     AddJson(bundle, options);
     bundle->callback([&] {
@@ -121,7 +125,7 @@ int Run(int argc, char** argv)
 
     CLI::App* catalog = AddCommand(app, "catalog", "Summarise an update catalog",
                                    "qrmkit catalog --catalog catalog.xml --json");
-    AddCatalog(catalog, options);
+    AddCatalog(catalog, options.catalog);
     AddJson(catalog, options);
     catalog->callback([&] {
         action = [&] { return Emit(qrmtool::CollectCatalog(options.catalog), options.json, qrmtool::RenderCatalog); };
@@ -139,7 +143,7 @@ int Run(int argc, char** argv)
 
     CLI::App* categories = AddCommand(app, "categories", "List the catalog's categories with their codes and acronyms",
                                       "qrmkit categories --catalog catalog.xml");
-    AddCatalog(categories, options);
+    AddCatalog(categories, options.catalog);
     AddJson(categories, options);
     categories->callback([&] {
         action = [&] {
@@ -150,7 +154,7 @@ int Run(int argc, char** argv)
     CLI::App* collector = AddCommand(app, "collector",
                                      "Print where the inventory collector for an operating system lies",
                                      "qrmkit collector --catalog catalog.xml --os-code W22");
-    AddCatalog(collector, options);
+    AddCatalog(collector, options.catalog);
     collector->add_option("--os-code", options.osCode, "The operating system code (as in the catalog)")
         ->required()
         ->type_name("CODE");
@@ -169,14 +173,9 @@ int Run(int argc, char** argv)
         "Evaluate many inventories against one catalog: the catalog is read once and every inventory is "
         "evaluated on its own, exactly as 'updates --json' would",
         "qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/");
-    fleet->add_option("--catalog", fleetCommand.catalog, "The update catalog (XML)")->required()->type_name("FILE");
-    fleet
-        ->add_option("--bundle-type", fleetCommand.bundleType,
-                     "The bundle type to take the packages from; auto: for each computer, the first type, in the "
-                     "order listed, with a bundle for its system")
-        ->capture_default_str()
-        ->check(CLI::IsMember({"auto", "BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND"}))
-        ->type_name("TYPE");
+    AddCatalog(fleet, fleetCommand.catalog);
+    AddBundleType(fleet, fleetCommand.bundleType,
+                  "for each computer, the first type, in the order listed, with a bundle for its system");
     fleet->add_option("--jobs,-j", fleetCommand.jobs, "Inventories evaluated at once (default: the number of processors)")
         ->check(CLI::Range(1U, 1024U))
         ->type_name("N");
