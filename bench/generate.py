@@ -10,10 +10,19 @@ devices match a good share of its bundle's components, by component id and
 by PCI ids, with installed versions older than, equal to or newer than the
 catalog's.
 
+With --fleet DIR it also writes one inventory per computer into DIR
+(inventory-00000.xml, ...), for the same catalog options and seed: 20 to 60
+devices each, most computers of one of the catalog's systems, about 10 % of
+a system the catalog has no bundle for. The fleet comes from its own random
+generator, so the catalog and the single inventory are the same with or
+without it, and --fleet may be given without --catalog.
+
     bench/generate.py --components 30000 --catalog big.xml --inventory inv.xml
     bench/generate.py --target-mb 100 --catalog big.xml --inventory inv.xml
+    bench/generate.py --target-mb 100 --fleet fleet/ --computers 10000
 """
 import argparse
+import os
 import random
 import sys
 
@@ -173,9 +182,14 @@ def write_catalog(out, rng, components, systems, packages, bundle_types):
     out.write('</Manifest>\n')
 
 
-def write_inventory(out, rng, components, system, devices):
-    pool = [c for c in components if system in c.systems]
-    rng.shuffle(pool)
+def system_pool(components, system):
+    return [c for c in components if system in c.systems]
+
+
+def write_inventory(out, rng, system, candidates, devices):
+    """Writes an inventory of `devices` devices for `system`; device i is
+    candidates[i] (70 % of the time, while there are candidates) or else
+    a device no component matches."""
     out.write('<?xml version="1.0" encoding="utf-8"?>\n')
     out.write('<SVMInventory lang="en" schemaVersion="1.0" timeStamp="1763700000">\n')
     out.write('  <OperatingSystem osArch="x64" osCode="W22" osVendor="Example" majorVersion="10" '
@@ -184,8 +198,8 @@ def write_inventory(out, rng, components, system, devices):
     out.write('  <System systemID="%s" display="M%s" serviceTag="ABC%04d" systemIDType="BIOS"/>\n'
               % (system, system, rng.randrange(10000)))
     for index in range(devices):
-        if index < len(pool) and rng.random() < 0.7:
-            c = pool[index]
+        if index < len(candidates) and rng.random() < 0.7:
+            c = candidates[index]
         else:
             c = None
         if c is not None and c.pci:
@@ -208,6 +222,27 @@ def write_inventory(out, rng, components, system, devices):
                       % (version(rng), index))
         out.write('  </Device>\n')
     out.write('</SVMInventory>\n')
+
+
+def write_fleet(directory, rng, components, systems, computers, utf16):
+    """Writes one inventory per computer into directory."""
+    os.makedirs(directory, exist_ok=True)
+    pools = {system: system_pool(components, system) for system in systems}
+    # System ids that have no bundle in the catalog.
+    unbundled = [s for s in ("0F%02X" % i for i in range(256)) if s not in systems]
+    width = max(5, len(str(computers - 1)))
+    for number in range(computers):
+        if rng.random() < 0.1:
+            # Real devices, but of a model the catalog has no bundle for.
+            system = rng.choice(unbundled)
+            pool = pools[rng.choice(systems)]
+        else:
+            system = rng.choice(systems)
+            pool = pools[system]
+        devices = rng.randint(20, 60)
+        inventory = Sink()
+        write_inventory(inventory, rng, system, rng.sample(pool, min(len(pool), devices)), devices)
+        inventory.save(os.path.join(directory, "inventory-%0*d.xml" % (width, number)), utf16)
 
 
 class Sink:
@@ -240,21 +275,32 @@ def main():
     parser.add_argument("--bundle-types", type=int, default=3, help="bundle types per system")
     parser.add_argument("--devices", type=int, default=200, help="inventory devices")
     parser.add_argument("--utf16", action="store_true", help="write UTF-16LE with a byte-order mark")
-    parser.add_argument("--catalog", required=True)
-    parser.add_argument("--inventory")
+    parser.add_argument("--catalog")
+    parser.add_argument("--inventory", help="needs --catalog")
+    parser.add_argument("--fleet", metavar="DIR", help="write one inventory per computer into DIR")
+    parser.add_argument("--computers", type=int, default=10000, help="computers of the fleet")
     args = parser.parse_args()
+    if not args.catalog and not args.fleet:
+        parser.error("give --catalog, --fleet or both")
+    if args.inventory and not args.catalog:
+        parser.error("--inventory needs --catalog")
 
     rng = random.Random(args.seed)
     systems = ["%04X" % (0x0A00 + 0x11 * i) for i in range(args.systems)]
     components = args.components or max(10, int(args.target_mb * 1000 * 1000 / 2590))
     comps = make_components(rng, components, systems)
-    catalog = Sink()
-    write_catalog(catalog, rng, comps, systems, args.packages, BUNDLE_TYPES[:args.bundle_types])
-    catalog.save(args.catalog, args.utf16)
+    if args.catalog:
+        catalog = Sink()
+        write_catalog(catalog, rng, comps, systems, args.packages, BUNDLE_TYPES[:args.bundle_types])
+        catalog.save(args.catalog, args.utf16)
     if args.inventory:
+        pool = system_pool(comps, systems[0])
+        rng.shuffle(pool)
         inventory = Sink()
-        write_inventory(inventory, rng, comps, systems[0], args.devices)
+        write_inventory(inventory, rng, systems[0], pool, args.devices)
         inventory.save(args.inventory, args.utf16)
+    if args.fleet:
+        write_fleet(args.fleet, random.Random("fleet %d" % args.seed), comps, systems, args.computers, args.utf16)
 
 
 if __name__ == "__main__":
