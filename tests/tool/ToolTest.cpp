@@ -422,4 +422,142 @@ TEST_F(ToolTest, Version)
     EXPECT_EQ(result.out, "qrmkit 1.0.0\n");
 }
 
+// ------------------------------------------------------- scripts and pipelines
+
+namespace {
+
+// A failure with --json: the given status, standard error empty, and one
+// JSON error document on standard output.
+nlohmann::json ExpectJsonError(const Result& result, int status, const std::string& code)
+{
+    EXPECT_EQ(result.status, status) << result.out << result.err;
+    EXPECT_EQ(result.err, "");
+    nlohmann::json document = nlohmann::json::parse(result.out);
+    EXPECT_EQ(document.size(), 1U) << result.out;
+    EXPECT_EQ(document["error"]["code"], code) << result.out;
+    EXPECT_TRUE(document["error"]["message"].is_string());
+    EXPECT_TRUE(document["error"].contains("file"));
+    return document;
+}
+
+}  // namespace
+
+TEST_F(ToolTest, JsonFailuresOfEveryCommandAreJsonOnStandardOutput)
+{
+    const std::string absent = Path("absent.xml");
+    const std::vector<std::vector<std::string>> commands = {
+        {"updates", "--catalog", absent, "--inventory", kInventory, "--json"},
+        {"bundle", "--catalog", absent, "--inventory", kInventory, "--json"},
+        {"catalog", "--catalog", absent, "--json"},
+        {"categories", "--catalog", absent, "--json"},
+        {"collector", "--catalog", absent, "--os-code", "W22", "--json"},
+        {"inventory", "--inventory", absent, "--json"}};
+    for (const std::vector<std::string>& command : commands) {
+        nlohmann::json document = ExpectJsonError(Run(command), 2, "file-missing");
+        EXPECT_EQ(document["error"]["file"], absent) << command[0];
+        EXPECT_EQ(document["error"]["message"], absent + ": the file does not exist") << command[0];
+    }
+}
+
+TEST_F(ToolTest, JsonFailureSaysWhatIsWrongWithWhichFile)
+{
+    const std::string other = Variant(kInventory, "other.xml", "systemID=\"0A6B\"", "systemID=\"0FFF\"");
+    nlohmann::json noBundle =
+        ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--inventory", other, "--json"}), 2, "no-bundle");
+    EXPECT_EQ(noBundle["error"]["file"], other);
+    EXPECT_TRUE(Contains(noBundle["error"]["message"], "0FFF"));
+
+    const std::string garbage = Path("garbage.xml");
+    WriteFile(garbage, "not xml at all");
+    EXPECT_EQ(ExpectJsonError(Run({"inventory", "--inventory", garbage, "--json"}), 2, "not-an-inventory")["error"]["file"],
+              garbage);
+    EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", garbage, "--json"}), 2, "not-a-catalog")["error"]["file"],
+              garbage);
+    EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", mDir, "--json"}), 2, "not-a-file")["error"]["file"], mDir);
+    EXPECT_TRUE(
+        ExpectJsonError(Run({"compare", "1.\xC3\xA9", "1.0", "--json"}), 2, "not-comparable")["error"]["file"].is_null());
+    ExpectJsonError(Run({"collector", "--catalog", kCatalog, "--os-code", "XX", "--json"}), 2, "unknown-os-code");
+}
+
+TEST_F(ToolTest, JsonUsageErrorsAreJsonWithStatus1)
+{
+    nlohmann::json missing = ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--json"}), 1, "usage");
+    EXPECT_TRUE(Contains(missing["error"]["message"], "--inventory")) << missing.dump();
+    ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTXX", "--json"}),
+                    1, "usage");
+    ExpectJsonError(Run({"compare", "1.0", "--json"}), 1, "usage");
+    // Without --json the same mistakes stay text on standard error.
+    Result text = Run({"updates", "--catalog", kCatalog});
+    EXPECT_EQ(text.status, 1);
+    EXPECT_EQ(text.out, "");
+    EXPECT_TRUE(Contains(text.err, "--inventory"));
+}
+
+TEST_F(ToolTest, CompareAndCollectorSpeakJson)
+{
+    Result compare = Run({"compare", "1.2.10", "1.2.9", "--json"});
+    ASSERT_EQ(compare.status, 0) << compare.err;
+    EXPECT_EQ(nlohmann::json::parse(compare.out),
+              nlohmann::json::parse(R"({"first": "1.2.10", "second": "1.2.9", "order": 1, "relation": ">"})"));
+    EXPECT_EQ(nlohmann::json::parse(Run({"compare", "1.0", "1.0.0", "--json"}).out)["order"], -1);
+    EXPECT_EQ(nlohmann::json::parse(Run({"compare", "01.2", "1.2", "--json"}).out)["relation"], "=");
+
+    Result collector = Run({"collector", "--catalog", kCatalog, "--os-code", "W22", "--json"});
+    ASSERT_EQ(collector.status, 0) << collector.err;
+    EXPECT_EQ(nlohmann::json::parse(collector.out),
+              nlohmann::json::parse(R"({"catalog": ")" + kCatalog + R"(", "os_code": "W22",
+                  "location": "updates.example.com/catalog/collectors/invcol_w64.exe"})"));
+}
+
+TEST_F(ToolTest, UpdatesCheckExits100WhenAPackageIsNewer)
+{
+    Result newer = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--check"});
+    EXPECT_EQ(newer.status, 100);
+    EXPECT_FALSE(LineWith(newer.out, {"BIOS", "2.3.9", "2.4.1", "newer"}).empty()) << "the report is still printed";
+    EXPECT_EQ(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--check", "--json"}).status, 100);
+    EXPECT_EQ(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory}).status, 0) << "only with --check";
+
+    // Everything installed is current or ahead of the catalog.
+    const std::string current = Path("current.xml");
+    WriteFile(current, "<?xml version=\"1.0\"?>\n<SVMInventory lang=\"en\">\n"
+                       "<System systemID=\"0A6B\" display=\"M\" serviceTag=\"S\" systemIDType=\"BIOS\"/>\n"
+                       "<Device componentID=\"159\" display=\"BIOS\"><Application componentType=\"BIOS\" "
+                       "version=\"9.0.0\" display=\"BIOS\"/></Device>\n</SVMInventory>\n");
+    Result quiet = Run({"updates", "--catalog", kCatalog, "--inventory", current, "--check", "--json"});
+    EXPECT_EQ(quiet.status, 0) << quiet.out;
+    EXPECT_EQ(nlohmann::json::parse(quiet.out)["summary"]["updates"], 1);
+
+    // Errors keep their status.
+    EXPECT_EQ(Run({"updates", "--catalog", kCatalog, "--inventory", Path("absent.xml"), "--check"}).status, 2);
+}
+
+TEST_F(ToolTest, UpdatesOnlyKeepsTheRowsOfTheGivenStatuses)
+{
+    Result older = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "older", "--json"});
+    ASSERT_EQ(older.status, 0) << older.err;
+    nlohmann::json document = nlohmann::json::parse(older.out);
+    ASSERT_EQ(document["updates"].size(), 1U);
+    EXPECT_EQ(document["updates"][0]["application"], "1GbE adapter firmware");
+    EXPECT_EQ(document["only"], nlohmann::json::parse(R"(["older"])"));
+    EXPECT_EQ(document["summary"]["updates"], 10) << "the summary counts every update";
+
+    Result two = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "same", "--only", "older",
+                      "--json"});
+    nlohmann::json both = nlohmann::json::parse(two.out);
+    ASSERT_EQ(both["updates"].size(), 3U);
+    for (const auto& update : both["updates"]) {
+        EXPECT_TRUE(update["status"] == "same" || update["status"] == "older") << update.dump();
+    }
+
+    Result table = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "older"});
+    ASSERT_EQ(table.status, 0);
+    EXPECT_FALSE(LineWith(table.out, {"1GbE adapter firmware", "older"}).empty()) << table.out;
+    EXPECT_TRUE(LineWith(table.out, {"BIOS", "2.4.1"}).empty()) << table.out;
+    EXPECT_FALSE(LineWith(table.out, {"Showing only: older (1 of 10 updates)."}).empty()) << table.out;
+
+    Result without = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--json"});
+    EXPECT_FALSE(nlohmann::json::parse(without.out).contains("only"));
+    EXPECT_EQ(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "fresh"}).status, 1);
+}
+
 }  // namespace

@@ -120,22 +120,28 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
             }
         }
         if (bundle == nullptr) {
-            throw ToolError("no-bundle", inventory + ": no bundle of any type in " + catalog + " applies to " +
-                            SystemPhrase(systemID));
+            throw ToolError("no-bundle",
+                            inventory + ": no bundle of any type in " + catalog + " applies to " +
+                                SystemPhrase(systemID),
+                            inventory);
         }
     } else {
         bundle = api->GetApplicableBundle(type);
         if (bundle == nullptr) {
-            throw ToolError("no-bundle", inventory + ": no " + bundleType + " bundle in " + catalog + " applies to " +
-                            SystemPhrase(systemID));
+            throw ToolError("no-bundle",
+                            inventory + ": no " + bundleType + " bundle in " + catalog + " applies to " +
+                                SystemPhrase(systemID),
+                            inventory);
         }
     }
 
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
     QRMKitReturnCode code = api->GetApplicableUpdates(updates, InventoryArchitecture(), type);
     if (code != QRM_KIT_SUCCESS) {
-        throw ToolError("evaluation-failed", inventory + ": the applicable updates could not be determined (" +
-                        QRMKitReturnCodeName(code) + ")");
+        throw ToolError("evaluation-failed",
+                        inventory + ": the applicable updates could not be determined (" +
+                            QRMKitReturnCodeName(code) + ")",
+                        inventory);
     }
     std::vector<QRMIDevice*> devices;
     api->GetInventory(devices);
@@ -242,6 +248,12 @@ std::string RenderUpdates(const Json& document)
     const Json& summary = document["summary"];
     const std::size_t count = summary["updates"].get<std::size_t>();
     out += "\n";
+    if (document.contains("only")) {
+        out += Fit("Showing only: " + Join(document["only"]) + " (" + std::to_string(document["updates"].size()) +
+                       " of " + std::to_string(count) + " updates).",
+                   kMaxWidth) +
+               "\n";
+    }
     out += Fit(Plural(count, "update", "updates") + " for " +
                    Plural(summary["applications"].get<std::size_t>(), "installed application",
                           "installed applications") +
@@ -623,7 +635,7 @@ std::string RenderCategories(const Json& document)
 
 // ---------------------------------------------------------------- collector
 
-std::string FindCollector(const std::string& catalog, const std::string& osCode)
+Json CollectCollector(const std::string& catalog, const std::string& osCode)
 {
     LoadCatalog(catalog);
     QRMKitAPI* api = QRMKitAPI::Instance();
@@ -637,26 +649,65 @@ std::string FindCollector(const std::string& catalog, const std::string& osCode)
         known += (known.empty() ? "" : ", ") + Utf8(collector.GetOSCode());
     }
     if (!found) {
-        throw ToolError("unknown-os-code", catalog + ": no inventory collector for operating system code \"" + osCode + "\" (" +
-                        (known.empty() ? std::string("the catalog lists none") : "known codes: " + known) + ")");
+        throw ToolError("unknown-os-code",
+                        catalog + ": no inventory collector for operating system code \"" + osCode + "\" (" +
+                            (known.empty() ? std::string("the catalog lists none") : "known codes: " + known) + ")",
+                        catalog);
     }
+    Json document;
+    document["catalog"] = catalog;
+    document["os_code"] = osCode;
     // The catalog is parsed, so this lookup stays silent.
-    return Utf8(api->GetInventoryFile(InventoryArchitecture(), code)) + "\n";
+    document["location"] = Utf8(api->GetInventoryFile(InventoryArchitecture(), code));
+    return document;
 }
+
+std::string RenderCollector(const Json& document) { return Text(document["location"]) + "\n"; }
 
 // ---------------------------------------------------------------- compare
 
-std::string CompareVersions(const std::string& first, const std::string& second)
+Json CollectComparison(const std::string& first, const std::string& second)
 {
-    int order = QRMKitAPI::Instance()->CompareVersion(VELString(first.c_str()), VELString(second.c_str()));
-    switch (order) {
-    case 1: return first + " > " + second + "\n";
-    case 0: return first + " = " + second + "\n";
-    case -1: return first + " < " + second + "\n";
-    default: break;
+    const int order = QRMKitAPI::Instance()->CompareVersion(VELString(first.c_str()), VELString(second.c_str()));
+    if (order < -1 || order > 1) {
+        throw ToolError("not-comparable", "cannot compare \"" + first + "\" with \"" + second +
+                                              "\": only versions written in ASCII characters can be compared");
     }
-    throw ToolError("not-comparable", "cannot compare \"" + first + "\" with \"" + second +
-                    "\": only versions written in ASCII characters can be compared");
+    Json document;
+    document["first"] = first;
+    document["second"] = second;
+    document["order"] = order;
+    document["relation"] = order > 0 ? ">" : order < 0 ? "<" : "=";
+    return document;
+}
+
+std::string RenderComparison(const Json& document)
+{
+    return Text(document["first"]) + " " + Text(document["relation"]) + " " + Text(document["second"]) + "\n";
+}
+
+Json ErrorDocument(const ToolError& error)
+{
+    Json document;
+    document["error"] = {{"code", error.Code()},
+                         {"message", error.what()},
+                         {"file", error.File().empty() ? Json() : Json(error.File())}};
+    return document;
+}
+
+void KeepOnly(Json& document, const std::vector<std::string>& statuses)
+{
+    if (statuses.empty()) {
+        return;
+    }
+    Json kept = Json::array();
+    for (Json& update : document["updates"]) {
+        if (std::find(statuses.begin(), statuses.end(), update["status"].get<std::string>()) != statuses.end()) {
+            kept.push_back(std::move(update));
+        }
+    }
+    document["updates"] = std::move(kept);
+    document["only"] = statuses;
 }
 
 }  // namespace qrmtool

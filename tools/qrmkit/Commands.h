@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include <string>
+#include <vector>
 
 namespace qrmtool {
 
@@ -39,12 +40,26 @@ std::string RenderInventory(const Json& document);
 Json CollectCategories(const std::string& catalog);
 std::string RenderCategories(const Json& document);
 
-// The full location of the inventory collector for an operating system
-// code, followed by a line end.
-std::string FindCollector(const std::string& catalog, const std::string& osCode);
+// Where the inventory collector for an operating system code lies: the
+// document names the catalog, the code and the full location; rendered, the
+// location alone on a line.
+Json CollectCollector(const std::string& catalog, const std::string& osCode);
+std::string RenderCollector(const Json& document);
 
-// "V1 < V2", "V1 = V2" or "V1 > V2", followed by a line end.
-std::string CompareVersions(const std::string& first, const std::string& second);
+// How two versions order: "order" -1, 0 or 1 and "relation" "<", "=" or
+// ">"; rendered "V1 < V2". Versions that cannot be compared are a ToolError.
+Json CollectComparison(const std::string& first, const std::string& second);
+std::string RenderComparison(const Json& document);
+
+// {"error": {"code", "message", "file"}}: what --json prints for a failure
+// ("file" null when no file is at fault).
+class ToolError;
+Json ErrorDocument(const ToolError& error);
+
+// Keeps only the updates whose status is one of `statuses` (all of them
+// when it is empty) and records the filter as "only"; the summary still
+// counts every update.
+void KeepOnly(Json& document, const std::vector<std::string>& statuses);
 
 }  // namespace qrmtool
 

@@ -105,9 +105,7 @@ int RunFleet(const FleetCommand& command)
         LoadCatalog(command.catalog);
     } catch (const ToolError& error) {
         if (format == "jsonl") {
-            Json document;
-            document["error"] = {{"code", error.Code()}, {"message", error.what()}, {"file", command.catalog}};
-            output.Write(JsonText(document, -1) + "\n");
+            output.Write(JsonText(ErrorDocument(error), -1) + "\n");
         } else {
             std::cerr << "qrmkit: " << error.what() << "\n";
         }

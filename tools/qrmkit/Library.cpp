@@ -49,7 +49,7 @@ std::string CodeWord(const std::string& path, QRMKitReturnCode code, bool catalo
 void Check(const std::string& path, QRMKitReturnCode code, bool catalog)
 {
     if (code != QRM_KIT_SUCCESS) {
-        throw ToolError(CodeWord(path, code, catalog), path + ": " + Describe(path, code, catalog));
+        throw ToolError(CodeWord(path, code, catalog), path + ": " + Describe(path, code, catalog), path);
     }
 }
 

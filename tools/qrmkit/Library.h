@@ -15,14 +15,20 @@ namespace qrmtool {
 // A failure to report to the user: one line, exit status 2. The message
 // names the file concerned (when there is one) and says what is wrong; the
 // code is a short word for the kind of failure ("file-missing",
-// "not-an-inventory", "no-bundle", ...) that programs can test.
+// "not-an-inventory", "no-bundle", ...) that programs can test, and the
+// file is the one at fault ("" when no file is).
 class ToolError : public std::runtime_error {
 public:
-    ToolError(std::string code, const std::string& message) : std::runtime_error(message), mCode(std::move(code)) {}
+    ToolError(std::string code, const std::string& message, std::string file = std::string())
+        : std::runtime_error(message), mCode(std::move(code)), mFile(std::move(file))
+    {
+    }
     const std::string& Code() const { return mCode; }
+    const std::string& File() const { return mFile; }
 
 private:
     std::string mCode;
+    std::string mFile;
 };
 
 // Parse the catalog / the inventory, or throw a ToolError that says why not.

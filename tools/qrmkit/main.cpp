@@ -15,6 +15,7 @@
 #include <functional>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #ifndef QRMKIT_TOOL_VERSION
 #define QRMKIT_TOOL_VERSION "unknown"
@@ -33,7 +34,25 @@ struct Options {
     std::string first;
     std::string second;
     bool json = false;
+    bool check = false;
+    std::vector<std::string> only;
 };
+
+// Exit status of `updates --check` when a package is newer than what is
+// installed (the same as `fleet --check`).
+constexpr int kExitNewer = qrmtool::kExitNewer;
+
+// Whether the command line asks for JSON: then every outcome, a failure
+// too, is a JSON document on standard output.
+bool AsksForJson(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::string(argv[i]) == "--json") {
+            return true;
+        }
+    }
+    return false;
+}
 
 CLI::App* AddCommand(CLI::App& app, const char* name, const char* description, const char* example)
 {
@@ -95,6 +114,7 @@ int Run(int argc, char** argv)
                "...); fleet: 3 some inventories failed, 100 with --check when a package is newer.");
 
     std::function<std::string()> action;
+    int status = 0;  // the exit status when the action succeeds
     // A command that writes as it goes and chooses its own exit status.
     std::function<int()> direct;
 
@@ -103,11 +123,22 @@ int Run(int argc, char** argv)
     AddCatalog(updates, options.catalog);
     AddInventory(updates, options);
     AddBundleType(updates, options.bundleType, "the first type, in the order listed, with a bundle for this system");
+    updates->add_flag("--check", options.check,
+                      "Exit with 100 when at least one available version is newer than the installed one");
+    updates
+        ->add_option("--only", options.only,
+                     "Show only the updates of this status (repeatable); the summary still counts all")
+        ->check(CLI::IsMember({"newer", "same", "older", "unknown"}))
+        ->type_name("STATUS");
     AddJson(updates, options);
     updates->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectUpdates(options.catalog, options.inventory, options.bundleType), options.json,
-                        qrmtool::RenderUpdates);
+            qrmtool::Json document = qrmtool::CollectUpdates(options.catalog, options.inventory, options.bundleType);
+            if (options.check && document["summary"]["newer"].get<std::size_t>() > 0) {
+                status = kExitNewer;
+            }
+            qrmtool::KeepOnly(document, options.only);
+            return Emit(document, options.json, qrmtool::RenderUpdates);
         };
     });
 
@@ -158,13 +189,24 @@ int Run(int argc, char** argv)
     collector->add_option("--os-code", options.osCode, "The operating system code (as in the catalog)")
         ->required()
         ->type_name("CODE");
-    collector->callback([&] { action = [&] { return qrmtool::FindCollector(options.catalog, options.osCode); }; });
+    AddJson(collector, options);
+    collector->callback([&] {
+        action = [&] {
+            return Emit(qrmtool::CollectCollector(options.catalog, options.osCode), options.json,
+                        qrmtool::RenderCollector);
+        };
+    });
 
     CLI::App* compare = AddCommand(app, "compare", "Compare two version texts", "qrmkit compare 1.2.10 1.2.9");
     compare->add_option("V1", options.first, "The first version")->required();
     compare->add_option("V2", options.second, "The second version")->required();
-    compare->callback(
-        [&] { action = [&] { return qrmtool::CompareVersions(options.first, options.second); }; });
+    AddJson(compare, options);
+    compare->callback([&] {
+        action = [&] {
+            return Emit(qrmtool::CollectComparison(options.first, options.second), options.json,
+                        qrmtool::RenderComparison);
+        };
+    });
 
     qrmtool::FleetCommand fleetCommand;
     std::string shard;
@@ -222,8 +264,10 @@ int Run(int argc, char** argv)
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        int status = app.exit(error);
-        return status == 0 ? 0 : kExitUsage;
+        if (error.get_exit_code() != 0 && AsksForJson(argc, argv)) {
+            throw qrmtool::ToolError("usage", error.what());
+        }
+        return app.exit(error) == 0 ? 0 : kExitUsage;
     }
     if (direct) {
         return direct();
@@ -238,19 +282,32 @@ int Run(int argc, char** argv)
         std::cerr << "qrmkit: cannot write to standard output\n";
         return kExitFailure;
     }
-    return 0;
+    return status;
 }
 
 }  // namespace
 
 int main(int argc, char** argv)
 {
+    const bool json = AsksForJson(argc, argv);
+    // A failure: one JSON document on standard output with --json, one line
+    // on standard error otherwise.
+    auto fail = [json](const qrmtool::ToolError& error) {
+        if (json) {
+            std::cout << qrmtool::JsonText(qrmtool::ErrorDocument(error), 2) << "\n" << std::flush;
+        } else {
+            std::cerr << "qrmkit: " << error.what() << "\n";
+        }
+        return error.Code() == "usage" ? kExitUsage : kExitFailure;
+    };
     try {
-        return Run(argc, argv);
-    } catch (const qrmtool::ToolError& error) {
-        std::cerr << "qrmkit: " << error.what() << "\n";
-    } catch (const std::exception& error) {
-        std::cerr << "qrmkit: internal error: " << error.what() << "\n";
+        try {
+            return Run(argc, argv);
+        } catch (const qrmtool::ToolError& error) {
+            return fail(error);
+        } catch (const std::exception& error) {
+            return fail(qrmtool::ToolError("internal", std::string("internal error: ") + error.what()));
+        }
     } catch (...) {
         std::cerr << "qrmkit: internal error\n";
     }
