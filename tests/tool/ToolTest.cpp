@@ -422,6 +422,13 @@ TEST_F(ToolTest, Version)
     EXPECT_EQ(result.out, "qrmkit 1.0.0\n");
 }
 
+TEST_F(ToolTest, VersionHasAShortOption)
+{
+    Result result = Run({"-V"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "qrmkit 1.0.0\n");
+}
+
 // ------------------------------------------------------- scripts and pipelines
 
 namespace {
@@ -558,6 +565,36 @@ TEST_F(ToolTest, UpdatesOnlyKeepsTheRowsOfTheGivenStatuses)
     Result without = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--json"});
     EXPECT_FALSE(nlohmann::json::parse(without.out).contains("only"));
     EXPECT_EQ(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "fresh"}).status, 1);
+}
+
+TEST_F(ToolTest, EnvironmentNamesTheCatalogAndInventoryWhenTheOptionsDoNot)
+{
+    setenv("QRMKIT_CATALOG", kCatalog.c_str(), 1);
+    setenv("QRMKIT_INVENTORY", kInventory.c_str(), 1);
+    Result fromEnvironment = Run({"updates", "--json"});
+    Result categories = Run({"categories", "--json"});
+    Result fleet = Run({"fleet", kInventory});
+    // The option wins over the environment.
+    const std::string other = Variant(kInventory, "other.xml", "systemID=\"0A6B\"", "systemID=\"0FFF\"");
+    Result optionWins = Run({"updates", "--inventory", other, "--json"});
+    Result catalogWins = Run({"catalog", "--catalog", Path("absent.xml"), "--json"});
+    unsetenv("QRMKIT_CATALOG");
+    unsetenv("QRMKIT_INVENTORY");
+
+    ASSERT_EQ(fromEnvironment.status, 0) << fromEnvironment.out;
+    nlohmann::json document = nlohmann::json::parse(fromEnvironment.out);
+    EXPECT_EQ(document["catalog"], kCatalog);
+    EXPECT_EQ(document["inventory"], kInventory);
+    EXPECT_EQ(categories.status, 0);
+    EXPECT_EQ(nlohmann::json::parse(categories.out)["catalog"], kCatalog);
+    EXPECT_EQ(fleet.status, 0) << fleet.out;
+    EXPECT_EQ(nlohmann::json::parse(fleet.out)["catalog"], kCatalog);
+    EXPECT_EQ(optionWins.status, 2);
+    EXPECT_EQ(nlohmann::json::parse(optionWins.out)["error"]["file"], other);
+    EXPECT_EQ(nlohmann::json::parse(catalogWins.out)["error"]["file"], Path("absent.xml"));
+
+    Result neither = Run({"updates", "--json"});
+    EXPECT_EQ(neither.status, 1) << "without the options and the environment: a usage error";
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdlib>
 #include <exception>
 #include <functional>
 #include <iostream>
@@ -61,9 +62,27 @@ CLI::App* AddCommand(CLI::App& app, const char* name, const char* description, c
     return command;
 }
 
+// A file option that the environment variable stands in for when it is not
+// given: the variable's text is the default, and the option is required
+// only when the variable is unset or empty. (The option parser's own
+// environment lookup fills the options of every command, also those not
+// run, which share their targets here.)
+void DefaultFromEnvironment(CLI::Option* option, std::string& target, const char* variable)
+{
+    const char* value = std::getenv(variable);
+    if (value != nullptr && *value != '\0') {
+        target = value;
+    } else {
+        option->required();
+    }
+}
+
 void AddCatalog(CLI::App* command, std::string& catalog)
 {
-    command->add_option("--catalog", catalog, "The update catalog (XML)")->required()->type_name("FILE");
+    DefaultFromEnvironment(
+        command->add_option("--catalog", catalog, "The update catalog (XML); default: $QRMKIT_CATALOG")
+            ->type_name("FILE"),
+        catalog, "QRMKIT_CATALOG");
 }
 
 void AddBundleType(CLI::App* command, std::string& bundleType, const char* automatic)
@@ -78,9 +97,10 @@ void AddBundleType(CLI::App* command, std::string& bundleType, const char* autom
 
 void AddInventory(CLI::App* command, Options& options)
 {
-    command->add_option("--inventory", options.inventory, "The computer's inventory (XML)")
-        ->required()
-        ->type_name("FILE");
+    DefaultFromEnvironment(
+        command->add_option("--inventory", options.inventory, "The computer's inventory (XML); default: $QRMKIT_INVENTORY")
+            ->type_name("FILE"),
+        options.inventory, "QRMKIT_INVENTORY");
 }
 
 void AddJson(CLI::App* command, Options& options)
@@ -102,7 +122,7 @@ int Run(int argc, char** argv)
     CLI::App app("qrmkit: which catalog packages update the applications of a computer's inventory, and what an "
                  "update catalog and an inventory hold.",
                  "qrmkit");
-    app.set_version_flag("--version", std::string("qrmkit ") + QRMKIT_TOOL_VERSION, "Print the version and exit");
+    app.set_version_flag("-V,--version", std::string("qrmkit ") + QRMKIT_TOOL_VERSION, "Print the version and exit");
     app.require_subcommand(1);
     app.failure_message([](const CLI::App*, const CLI::Error& error) {
         return "qrmkit: " + std::string(error.what()) +
