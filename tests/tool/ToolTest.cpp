@@ -126,20 +126,20 @@ TEST_F(ToolTest, UpdatesWithoutAnApplicableBundleOfTheRequestedType)
 {
     Result result =
         Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTRPM"});
-    ExpectFailure(result, {"BTRPM", "0A6B"});
+    ExpectFailure(result, {"BTRPM", "0A6B"}, 4);
 }
 
 TEST_F(ToolTest, UpdatesWithoutAnyApplicableBundle)
 {
     std::string inventory = Variant(kInventory, "other.xml", "systemID=\"0A6B\"", "systemID=\"0FFF\"");
     Result result = Run({"updates", "--catalog", kCatalog, "--inventory", inventory});
-    ExpectFailure(result, {"no bundle", "0FFF"});
+    ExpectFailure(result, {"no bundle", "0FFF"}, 4);
 }
 
 TEST_F(ToolTest, UpdatesRejectsAnUnknownBundleType)
 {
     Result result = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTXX"});
-    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.status, 64);
     EXPECT_EQ(result.out, "");
     EXPECT_TRUE(Contains(result.err, "BTXX"));
 }
@@ -387,18 +387,18 @@ TEST_F(ToolTest, CatalogWithABundleLackingContents)
 TEST_F(ToolTest, BadUsageExitsWithOne)
 {
     Result unknownOption = Run({"catalog", "--catalog", kCatalog, "--bogus"});
-    EXPECT_EQ(unknownOption.status, 1);
+    EXPECT_EQ(unknownOption.status, 64);
     EXPECT_EQ(unknownOption.out, "");
     EXPECT_FALSE(unknownOption.err.empty());
 
     Result missingCatalog = Run({"updates", "--inventory", kInventory});
-    EXPECT_EQ(missingCatalog.status, 1);
+    EXPECT_EQ(missingCatalog.status, 64);
     EXPECT_TRUE(Contains(missingCatalog.err, "--catalog"));
 
-    EXPECT_EQ(Run({}).status, 1);
-    EXPECT_EQ(Run({"frobnicate"}).status, 1);
-    EXPECT_EQ(Run({"compare", "1.0"}).status, 1);
-    EXPECT_EQ(Run({"collector", "--catalog", kCatalog}).status, 1);
+    EXPECT_EQ(Run({}).status, 64);
+    EXPECT_EQ(Run({"frobnicate"}).status, 64);
+    EXPECT_EQ(Run({"compare", "1.0"}).status, 64);
+    EXPECT_EQ(Run({"collector", "--catalog", kCatalog}).status, 64);
 }
 
 TEST_F(ToolTest, HelpForEveryCommand)
@@ -470,7 +470,7 @@ TEST_F(ToolTest, JsonFailureSaysWhatIsWrongWithWhichFile)
 {
     const std::string other = Variant(kInventory, "other.xml", "systemID=\"0A6B\"", "systemID=\"0FFF\"");
     nlohmann::json noBundle =
-        ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--inventory", other, "--json"}), 2, "no-bundle");
+        ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--inventory", other, "--json"}), 4, "no-bundle");
     EXPECT_EQ(noBundle["error"]["file"], other);
     EXPECT_TRUE(Contains(noBundle["error"]["message"], "0FFF"));
 
@@ -486,16 +486,16 @@ TEST_F(ToolTest, JsonFailureSaysWhatIsWrongWithWhichFile)
     ExpectJsonError(Run({"collector", "--catalog", kCatalog, "--os-code", "XX", "--json"}), 2, "unknown-os-code");
 }
 
-TEST_F(ToolTest, JsonUsageErrorsAreJsonWithStatus1)
+TEST_F(ToolTest, JsonUsageErrorsAreJsonWithStatus64)
 {
-    nlohmann::json missing = ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--json"}), 1, "usage");
+    nlohmann::json missing = ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--json"}), 64, "usage");
     EXPECT_TRUE(Contains(missing["error"]["message"], "--inventory")) << missing.dump();
     ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTXX", "--json"}),
-                    1, "usage");
-    ExpectJsonError(Run({"compare", "1.0", "--json"}), 1, "usage");
+                    64, "usage");
+    ExpectJsonError(Run({"compare", "1.0", "--json"}), 64, "usage");
     // Without --json the same mistakes stay text on standard error.
     Result text = Run({"updates", "--catalog", kCatalog});
-    EXPECT_EQ(text.status, 1);
+    EXPECT_EQ(text.status, 64);
     EXPECT_EQ(text.out, "");
     EXPECT_TRUE(Contains(text.err, "--inventory"));
 }
@@ -564,7 +564,7 @@ TEST_F(ToolTest, UpdatesOnlyKeepsTheRowsOfTheGivenStatuses)
 
     Result without = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--json"});
     EXPECT_FALSE(nlohmann::json::parse(without.out).contains("only"));
-    EXPECT_EQ(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "fresh"}).status, 1);
+    EXPECT_EQ(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "fresh"}).status, 64);
 }
 
 TEST_F(ToolTest, EnvironmentNamesTheCatalogAndInventoryWhenTheOptionsDoNot)
@@ -589,12 +589,12 @@ TEST_F(ToolTest, EnvironmentNamesTheCatalogAndInventoryWhenTheOptionsDoNot)
     EXPECT_EQ(nlohmann::json::parse(categories.out)["catalog"], kCatalog);
     EXPECT_EQ(fleet.status, 0) << fleet.out;
     EXPECT_EQ(nlohmann::json::parse(fleet.out)["catalog"], kCatalog);
-    EXPECT_EQ(optionWins.status, 2);
+    EXPECT_EQ(optionWins.status, 4);
     EXPECT_EQ(nlohmann::json::parse(optionWins.out)["error"]["file"], other);
     EXPECT_EQ(nlohmann::json::parse(catalogWins.out)["error"]["file"], Path("absent.xml"));
 
     Result neither = Run({"updates", "--json"});
-    EXPECT_EQ(neither.status, 1) << "without the options and the environment: a usage error";
+    EXPECT_EQ(neither.status, 64) << "without the options and the environment: a usage error";
 }
 
 }  // namespace

@@ -180,11 +180,11 @@ protected:
         }
     }
 
-    // A failure: status 2, nothing on standard output, one line on standard
+    // A failure: status 2 (or the one given), nothing on standard output, one line on standard
     // error that starts with "qrmkit: " and contains every given text.
-    static void ExpectFailure(const Result& result, const std::vector<std::string>& parts)
+    static void ExpectFailure(const Result& result, const std::vector<std::string>& parts, int status = 2)
     {
-        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.status, status);
         EXPECT_EQ(result.out, "");
         std::vector<std::string> lines = Lines(result.err);
         ASSERT_EQ(lines.size(), 1U) << result.err;

@@ -19,8 +19,6 @@ namespace qrmtool {
 
 namespace {
 
-constexpr int kExitFailure = 2;
-
 // Where the report goes: standard output or the --output file, with the
 // first write error remembered.
 class Output {

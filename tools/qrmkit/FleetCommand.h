@@ -8,12 +8,6 @@
 
 namespace qrmtool {
 
-// Exit statuses of `qrmkit fleet` beyond 0 (every inventory evaluated),
-// 1 (bad usage) and 2 (the catalog cannot be read, or the output cannot be
-// written).
-constexpr int kExitInventoryFailed = 3;  // at least one inventory failed; the others were reported
-constexpr int kExitNewer = 100;          // --check: all evaluated, at least one package is newer
-
 struct FleetCommand {
     std::string catalog;
     std::string bundleType = "auto";

@@ -55,6 +55,14 @@ void Check(const std::string& path, QRMKitReturnCode code, bool catalog)
 
 }  // namespace
 
+int ExitStatusFor(const ToolError& error)
+{
+    if (error.Code() == "usage") {
+        return kExitUsage;
+    }
+    return error.Code() == "no-bundle" ? kExitNoBundle : kExitFailure;
+}
+
 void LoadCatalog(const std::string& path)
 {
     Check(path, QRMKitAPI::Instance()->Parse(VELFile(path)), true);

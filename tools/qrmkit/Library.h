@@ -31,6 +31,16 @@ private:
     std::string mFile;
 };
 
+// Exit statuses of qrmkit, one table for every command.
+constexpr int kExitFailure = 2;          // the request could not be carried out (bad input, ...)
+constexpr int kExitInventoryFailed = 3;  // fleet: at least one inventory failed; the others were reported
+constexpr int kExitNoBundle = 4;         // no applicable bundle for the computer's system
+constexpr int kExitUsage = 64;           // bad usage (as sysexits' EX_USAGE)
+constexpr int kExitNewer = 100;          // --check: at least one package is newer than what is installed
+
+// The exit status a failure ends the process with.
+int ExitStatusFor(const ToolError& error);
+
 // Parse the catalog / the inventory, or throw a ToolError that says why not.
 void LoadCatalog(const std::string& path);
 void LoadInventory(const std::string& path);

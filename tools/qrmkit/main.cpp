@@ -2,9 +2,10 @@
 // computer's inventory and tells which packages update which installed
 // applications, which bundle applies, and what the two documents hold.
 //
-// Exit status: 0 success, 1 bad usage, 2 the request could not be carried
-// out (a file missing or unreadable, no applicable bundle, ...); `fleet`
-// adds 3 (some inventories failed) and, with --check, 100 (newer packages).
+// Exit status: 0 success, 2 the request could not be carried out (a file
+// missing or unreadable, ...), 3 some inventories of a fleet failed, 4 no
+// applicable bundle for the system, 64 bad usage, 100 with --check: a
+// package is newer than what is installed.
 #include "Commands.h"
 #include "FleetCommand.h"
 #include "Library.h"
@@ -24,8 +25,9 @@
 
 namespace {
 
-constexpr int kExitUsage = 1;
-constexpr int kExitFailure = 2;
+using qrmtool::kExitFailure;
+using qrmtool::kExitNewer;
+using qrmtool::kExitUsage;
 
 struct Options {
     std::string catalog;
@@ -38,10 +40,6 @@ struct Options {
     bool check = false;
     std::vector<std::string> only;
 };
-
-// Exit status of `updates --check` when a package is newer than what is
-// installed (the same as `fleet --check`).
-constexpr int kExitNewer = qrmtool::kExitNewer;
 
 // Whether the command line asks for JSON: then every outcome, a failure
 // too, is a JSON document on standard output.
@@ -130,8 +128,9 @@ int Run(int argc, char** argv)
     });
     app.footer("Example:\n  qrmkit updates --catalog catalog.xml --inventory inventory.xml\n\n"
                "Run 'qrmkit COMMAND --help' for the options of a command.\n"
-               "Exit status: 0 success, 1 bad usage, 2 failure (file missing or unreadable, no applicable bundle, "
-               "...); fleet: 3 some inventories failed, 100 with --check when a package is newer.");
+               "Exit status: 0 success, 2 failure (file missing or unreadable, ...), 3 fleet: some inventories "
+               "failed, 4 no applicable bundle for the system, 64 bad usage, 100 with --check: a package is newer "
+               "than what is installed.");
 
     std::function<std::string()> action;
     int status = 0;  // the exit status when the action succeeds
@@ -273,7 +272,7 @@ int Run(int argc, char** argv)
                       "Inventory files, or directories: every *.xml file directly in one, sorted by name")
         ->required();
     fleet->footer("Example:\n  qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/\n\n"
-                  "Exit status: 0 every inventory evaluated, 1 bad usage, 2 the catalog cannot be read (nothing is "
+                  "Exit status: 0 every inventory evaluated, 64 bad usage, 2 the catalog cannot be read (nothing is "
                   "evaluated), 3 at least one inventory failed (the others are reported), 100 with --check: every "
                   "inventory evaluated and at least one package is newer than what is installed.");
     fleet->callback([&] {
@@ -318,7 +317,7 @@ int main(int argc, char** argv)
         } else {
             std::cerr << "qrmkit: " << error.what() << "\n";
         }
-        return error.Code() == "usage" ? kExitUsage : kExitFailure;
+        return qrmtool::ExitStatusFor(error);
     };
     try {
         try {
