@@ -170,7 +170,8 @@ protected:
                 ASSERT_TRUE(alone.status == 2 || alone.status == 4) << inventory;
                 EXPECT_EQ(alone.status == 4, line["error"]["code"] == "no-bundle") << inventory;
                 ASSERT_TRUE(line.contains("error")) << line.dump();
-                EXPECT_EQ(line.size(), 2U);
+                EXPECT_EQ(line.size(), 3U);
+                EXPECT_EQ(line["schema_version"], 1);
                 const Json error = Json::parse(alone.out)["error"];
                 EXPECT_EQ(line["error"]["code"], error["code"]) << inventory;
                 EXPECT_EQ(line["error"]["message"], error["message"]) << inventory;
@@ -389,7 +390,8 @@ TEST_F(FleetTest, AMissingInventoryIsThatInventorysErrorAndTheRunGoesOn)
     std::vector<Json> lines = ParseLines(fleet.out);
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0],
-              Json::parse(R"({"inventory": ")" + Path("missing.xml") + R"(", "error": {"code": "file-missing",
+              Json::parse(R"({"inventory": ")" + Path("missing.xml") + R"(", "schema_version": 1,
+                  "error": {"code": "file-missing",
                   "message": ")" + Path("missing.xml") + R"(: the file does not exist"}})"));
     EXPECT_EQ(lines[1]["summary"]["updates"], 10);
 }

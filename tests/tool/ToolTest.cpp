@@ -238,6 +238,7 @@ TEST_F(ToolTest, InventoryJson)
     nlohmann::json document = nlohmann::json::parse(result.out);
     EXPECT_EQ(document["system_id"], "0A6B");
     EXPECT_EQ(document["language"], "en");
+    EXPECT_EQ(document["inventory_schema_version"], "1.0") << "the inventory's own schema, apart from the tool's";
     ASSERT_EQ(document["systems"].size(), 1U);
     EXPECT_EQ(document["systems"][0]["service_tag"], "ABC1234");
     ASSERT_EQ(document["operating_systems"].size(), 1U);
@@ -440,7 +441,8 @@ nlohmann::json ExpectJsonError(const Result& result, int status, const std::stri
     EXPECT_EQ(result.status, status) << result.out << result.err;
     EXPECT_EQ(result.err, "");
     nlohmann::json document = nlohmann::json::parse(result.out);
-    EXPECT_EQ(document.size(), 1U) << result.out;
+    EXPECT_EQ(document.size(), 2U) << result.out;
+    EXPECT_EQ(document["schema_version"], 1);
     EXPECT_EQ(document["error"]["code"], code) << result.out;
     EXPECT_TRUE(document["error"]["message"].is_string());
     EXPECT_TRUE(document["error"].contains("file"));
@@ -505,14 +507,14 @@ TEST_F(ToolTest, CompareAndCollectorSpeakJson)
     Result compare = Run({"compare", "1.2.10", "1.2.9", "--json"});
     ASSERT_EQ(compare.status, 0) << compare.err;
     EXPECT_EQ(nlohmann::json::parse(compare.out),
-              nlohmann::json::parse(R"({"first": "1.2.10", "second": "1.2.9", "order": 1, "relation": ">"})"));
+              nlohmann::json::parse(R"({"schema_version": 1, "first": "1.2.10", "second": "1.2.9", "order": 1, "relation": ">"})"));
     EXPECT_EQ(nlohmann::json::parse(Run({"compare", "1.0", "1.0.0", "--json"}).out)["order"], -1);
     EXPECT_EQ(nlohmann::json::parse(Run({"compare", "01.2", "1.2", "--json"}).out)["relation"], "=");
 
     Result collector = Run({"collector", "--catalog", kCatalog, "--os-code", "W22", "--json"});
     ASSERT_EQ(collector.status, 0) << collector.err;
     EXPECT_EQ(nlohmann::json::parse(collector.out),
-              nlohmann::json::parse(R"({"catalog": ")" + kCatalog + R"(", "os_code": "W22",
+              nlohmann::json::parse(R"({"schema_version": 1, "catalog": ")" + kCatalog + R"(", "os_code": "W22",
                   "location": "updates.example.com/catalog/collectors/invcol_w64.exe"})"));
 }
 
@@ -595,6 +597,35 @@ TEST_F(ToolTest, EnvironmentNamesTheCatalogAndInventoryWhenTheOptionsDoNot)
 
     Result neither = Run({"updates", "--json"});
     EXPECT_EQ(neither.status, 64) << "without the options and the environment: a usage error";
+}
+
+TEST_F(ToolTest, EveryJsonDocumentNamesItsSchemaVersionFirst)
+{
+    const std::vector<std::vector<std::string>> commands = {
+        {"updates", "--catalog", kCatalog, "--inventory", kInventory, "--json"},
+        {"bundle", "--catalog", kCatalog, "--inventory", kInventory, "--json"},
+        {"catalog", "--catalog", kCatalog, "--json"},
+        {"inventory", "--inventory", kInventory, "--json"},
+        {"categories", "--catalog", kCatalog, "--json"},
+        {"collector", "--catalog", kCatalog, "--os-code", "W22", "--json"},
+        {"compare", "1.0", "1.1", "--json"},
+        {"catalog", "--catalog", Path("absent.xml"), "--json"},
+        {"updates", "--json"},
+        {"fleet", "--catalog", kCatalog, kInventory, Path("absent.xml")},
+        {"fleet", "--catalog", Path("absent.xml"), "--format", "jsonl", kInventory}};
+    for (const std::vector<std::string>& command : commands) {
+        Result result = Run(command);
+        std::vector<std::string> lines = command[0] == "fleet" ? Lines(result.out) : std::vector<std::string>{result.out};
+        ASSERT_FALSE(lines.empty()) << command[0];
+        for (const std::string& line : lines) {
+            nlohmann::ordered_json document = nlohmann::ordered_json::parse(line);
+            ASSERT_TRUE(document.contains("schema_version")) << line;
+            EXPECT_EQ(document["schema_version"], 1) << line;
+            // First, or right after the inventory a fleet line is about.
+            auto key = document.begin().key() == "inventory" ? std::next(document.begin()).key() : document.begin().key();
+            EXPECT_EQ(key, "schema_version") << line;
+        }
+    }
 }
 
 }  // namespace

@@ -90,6 +90,13 @@ QRMBundleTypeEnum RequestedBundleType(const std::string& bundleType)
 
 }  // namespace
 
+Json NewDocument()
+{
+    Json document;
+    document["schema_version"] = kSchemaVersion;
+    return document;
+}
+
 std::string JsonText(const Json& document, int indent)
 {
     return document.dump(indent, ' ', false, Json::error_handler_t::replace);
@@ -185,7 +192,7 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
 
     std::vector<QRMBundleContent> contents;
     bundle->GetContents(contents);
-    Json document;
+    Json document = NewDocument();
     document["catalog"] = catalog;
     document["inventory"] = inventory;
     document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
@@ -293,7 +300,7 @@ Json CollectBundles(const std::string& catalog, const std::string& inventory)
         entry["greatest_bundle_number"] = api->GetGreatestBundleNumber(type);
         types.push_back(std::move(entry));
     }
-    Json document;
+    Json document = NewDocument();
     document["catalog"] = catalog;
     document["inventory"] = inventory;
     document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
@@ -379,7 +386,7 @@ Json CollectCatalog(const std::string& catalog)
                                  {"release_id", Utf8(collector.GetReleaseID())}});
     }
 
-    Json document;
+    Json document = NewDocument();
     document["catalog"] = catalog;
     document["base_location"] = base;
     document["release_id"] = Utf8(api->GetCatalogReleaseID());
@@ -493,11 +500,11 @@ Json CollectInventory(const std::string& inventory)
                               {"applications", std::move(applicationList)}});
     }
 
-    Json document;
+    Json document = NewDocument();
     document["inventory"] = inventory;
     document["system_id"] = SystemID(api->GetSystemIDFromInventory());
     document["language"] = QRMInventoryLanguageText(api->GetInventoryLanguage());
-    document["schema_version"] = Utf8(api->GetInventorySchemaVersion());
+    document["inventory_schema_version"] = Utf8(api->GetInventorySchemaVersion());
     document["time_stamp"] = api->GetInventoryTimeStamp().GetValue();
     document["systems"] = std::move(systemList);
     document["operating_systems"] = std::move(osList);
@@ -513,7 +520,7 @@ std::string RenderInventory(const Json& document)
         "Inventory " + Text(document["inventory"]),
         {{"system id", systemID.is_null() ? "none (the inventory does not name exactly one system)" : Text(systemID)},
          {"language", Text(document["language"])},
-         {"schema", Text(document["schema_version"])},
+         {"schema", Text(document["inventory_schema_version"])},
          {"time stamp", Text(document["time_stamp"])}});
 
     out += "\n";
@@ -605,7 +612,7 @@ Json CollectCategories(const std::string& catalog)
         acronymMap[Utf8(acronym.first)] = Utf8(acronym.second);
     }
 
-    Json document;
+    Json document = NewDocument();
     document["catalog"] = catalog;
     document["categories"] = std::move(categories);
     document["acronyms"] = std::move(acronymMap);
@@ -654,7 +661,7 @@ Json CollectCollector(const std::string& catalog, const std::string& osCode)
                             (known.empty() ? std::string("the catalog lists none") : "known codes: " + known) + ")",
                         catalog);
     }
-    Json document;
+    Json document = NewDocument();
     document["catalog"] = catalog;
     document["os_code"] = osCode;
     // The catalog is parsed, so this lookup stays silent.
@@ -673,7 +680,7 @@ Json CollectComparison(const std::string& first, const std::string& second)
         throw ToolError("not-comparable", "cannot compare \"" + first + "\" with \"" + second +
                                               "\": only versions written in ASCII characters can be compared");
     }
-    Json document;
+    Json document = NewDocument();
     document["first"] = first;
     document["second"] = second;
     document["order"] = order;
@@ -688,7 +695,7 @@ std::string RenderComparison(const Json& document)
 
 Json ErrorDocument(const ToolError& error)
 {
-    Json document;
+    Json document = NewDocument();
     document["error"] = {{"code", error.Code()},
                          {"message", error.what()},
                          {"file", error.File().empty() ? Json() : Json(error.File())}};

@@ -14,6 +14,14 @@ namespace qrmtool {
 
 using Json = nlohmann::ordered_json;
 
+// The version of the shape of every JSON document the tool prints: raised
+// when a member changes meaning or goes away (new members do not raise it).
+constexpr int kSchemaVersion = 1;
+
+// An empty JSON document that names its schema version ("schema_version"
+// first): every document the tool prints starts as one.
+Json NewDocument();
+
 // The document as JSON text: indented by `indent` spaces, or on one line
 // when `indent` is negative. Text that is not valid UTF-8 is replaced, never
 // thrown on.

@@ -215,6 +215,7 @@ std::string FleetErrorLine(const std::string& inventory, const std::string& code
 {
     Json line;
     line["inventory"] = inventory;
+    line["schema_version"] = kSchemaVersion;
     line["error"] = {{"code", code}, {"message", message}};
     return JsonText(line, -1);
 }
