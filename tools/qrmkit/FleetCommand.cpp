@@ -124,7 +124,6 @@ int RunFleet(const FleetCommand& command)
     header.catalog = command.catalog;
     header.catalogRelease = Utf8(QRMKitAPI::Instance()->GetCatalogReleaseID());
     header.bundleType = command.bundleType;
-    header.inventories = inputs.size();
     std::unique_ptr<FleetReport> report =
         MakeFleetReport(format, header, [&output](const std::string& text) { output.Write(text); });
 

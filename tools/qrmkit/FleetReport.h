@@ -22,7 +22,6 @@ struct FleetHeader {
     std::string catalog;         // as given
     std::string catalogRelease;  // the catalog's release id
     std::string bundleType;      // "auto" or a bundle type
-    std::size_t inventories = 0;
 };
 
 // One computer's result, as the table and the page show it.
