@@ -12,16 +12,12 @@
 
 namespace {
 
-// The text after the last `separator`; the whole text when there is none.
-// Gives a package path's file name and a bundle id's number.
-VELString TextAfterLast(const VELString& text, char16_t separator)
+// A bundle id's number: the text after its last ".".
+VELString BundleNumberText(const VELString& bundleID)
 {
-    std::size_t found = text.GetUTF16View().rfind(separator);
-    if (found == std::u16string_view::npos) {
-        return text;
-    }
-    unsigned int start = static_cast<unsigned int>(found + 1);
-    return text.SubString(start, text.GetLength() - start);
+    const std::size_t count = qrm::TextAfterLast(bundleID.GetUTF16View(), u'.').size();
+    const unsigned int start = bundleID.GetLength() - static_cast<unsigned int>(count);
+    return bundleID.SubString(start, static_cast<unsigned int>(count));
 }
 
 }  // namespace
@@ -50,7 +46,7 @@ unsigned int QRMKitAPI::GetGreatestBundleNumber(QRMBundleTypeEnum bundleType) co
         if (bundle->GetBundleType() != bundleType) {
             continue;
         }
-        greatest = std::max(greatest, TextAfterLast(bundle->GetBundleID(), u'.').GetIntValue(std::dec));
+        greatest = std::max(greatest, BundleNumberText(bundle->GetBundleID()).GetIntValue(std::dec));
     }
     return greatest;
 }

@@ -21,13 +21,16 @@
 
 namespace qrm {
 
-// A package path's file name: the text after the last "/", or the whole
-// path when it has none.
-inline std::u16string_view FileNameOf(std::u16string_view path)
+// The text after the last `separator`; the whole text when there is none.
+// Gives a package path's file name and a bundle id's number.
+inline std::u16string_view TextAfterLast(std::u16string_view text, char16_t separator)
 {
-    const std::size_t slash = path.rfind(u'/');
-    return slash == std::u16string_view::npos ? path : path.substr(slash + 1);
+    const std::size_t found = text.rfind(separator);
+    return found == std::u16string_view::npos ? text : text.substr(found + 1);
 }
+
+// A package path's file name: the text after the last "/".
+inline std::u16string_view FileNameOf(std::u16string_view path) { return TextAfterLast(path, u'/'); }
 
 }  // namespace qrm
 

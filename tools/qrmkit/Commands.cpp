@@ -102,6 +102,8 @@ std::string JsonText(const Json& document, int indent)
     return document.dump(indent, ' ', false, Json::error_handler_t::replace);
 }
 
+bool HasNewer(const Json& updates) { return updates["summary"]["newer"].get<std::size_t>() > 0; }
+
 Json CollectUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
 {
     RequestedBundleType(bundleType);

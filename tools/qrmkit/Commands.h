@@ -29,6 +29,10 @@ std::string JsonText(const Json& document, int indent);
 
 // `bundleType` is "auto" or a bundle type text ("BTW64").
 Json CollectUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
+// Whether an updates document has a package newer than what is installed
+// (what --check asks).
+bool HasNewer(const Json& updates);
+
 // The same document for a catalog the library has read already: reads only
 // the inventory. `catalog` is the path the document names. Every way of
 // asking for updates (one computer or a fleet) goes through this function,

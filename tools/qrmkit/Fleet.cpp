@@ -64,7 +64,7 @@ bool WriteAll(int fd, const std::string& text)
                     result[item.key()] = std::move(item.value());
                 }
             }
-            status = result["summary"]["newer"].get<std::size_t>() > 0 ? kChildNewer : kChildEvaluated;
+            status = HasNewer(result) ? kChildNewer : kChildEvaluated;
             line = JsonText(result, -1);
         } catch (const ToolError& error) {
             status = kChildFailed;

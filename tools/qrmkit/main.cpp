@@ -153,7 +153,7 @@ int Run(int argc, char** argv)
     updates->callback([&] {
         action = [&] {
             qrmtool::Json document = qrmtool::CollectUpdates(options.catalog, options.inventory, options.bundleType);
-            if (options.check && document["summary"]["newer"].get<std::size_t>() > 0) {
+            if (options.check && qrmtool::HasNewer(document)) {
                 status = kExitNewer;
             }
             qrmtool::KeepOnly(document, options.only);
