@@ -48,5 +48,6 @@
 #include "QRMISystem.h"
 
 #include "QRMKitAPI.h"
+#include "QRMKitVersion.h"
 
 #endif

@@ -36,11 +36,73 @@ TEST_F(ToolTest, UpdatesTableListsEveryApplicationWithAnUpdate)
     EXPECT_FALSE(Contains(result.out, "Boot storage driver"));
 }
 
-TEST_F(ToolTest, UpdatesTableFitsInOneHundredColumns)
+TEST_F(ToolTest, UpdatesTableFitsTheTerminalWidth)
 {
-    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory});
+    for (unsigned short columns : {120, 80}) {
+        Result result = RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", kInventory}, columns);
+        ASSERT_EQ(result.status, 0);
+        EXPECT_FALSE(LineWith(result.out, {"BIOS", "2.3.9", "2.4.1", "newer"}).empty()) << result.out;
+        ExpectFits(result.out, columns);
+    }
+}
+
+TEST_F(ToolTest, ColumnsOverridesTheTerminalWidth)
+{
+    Result result =
+        RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", kInventory}, 120, {"COLUMNS=80"});
     ASSERT_EQ(result.status, 0);
-    ExpectFits(result.out);
+    ExpectFits(result.out, 80);
+    EXPECT_TRUE(Contains(result.out, "\xE2\x80\xA6")) << "80 columns cut the package lines: " << result.out;
+
+    Result ignored = RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", kInventory}, 120,
+                                   {"COLUMNS=wide"});
+    ExpectFits(ignored.out, 120);
+    EXPECT_GT(Widest(ignored.out), 80U) << "a COLUMNS that is no number is ignored";
+}
+
+TEST_F(ToolTest, OutputIsNeverCutWhenNotATerminal)
+{
+    const std::string name = "Update agent with a name long enough to overflow any reasonable column of a table";
+    std::string inventory = Variant(kInventory, "long.xml", "display=\"Update agent\"/>", "display=\"" + name + "\"/>");
+    setenv("COLUMNS", "40", 1);
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", inventory});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_FALSE(LineWith(result.out, {name, "5.1.4", "5.2.0"}).empty()) << result.out;
+    EXPECT_FALSE(Contains(result.out, "\xE2\x80\xA6")) << result.out;
+    EXPECT_FALSE(
+        LineWith(result.out, {"10 updates for 11 installed applications: 7 newer, 2 same, 1 older, 0 unknown; 1 "
+                              "without an update."})
+            .empty())
+        << result.out;
+}
+
+TEST_F(ToolTest, StatusesAreColouredOnATerminalUnlessNoColorIsSet)
+{
+    const std::vector<std::string> args = {"updates", "--catalog", kCatalog, "--inventory", kInventory};
+    const std::string green = "\x1B[32mnewer\x1B[0m";
+    const std::string yellow = "\x1B[33molder\x1B[0m";
+
+    Result terminal = RunOnTerminal(args);
+    EXPECT_TRUE(Contains(terminal.out, green)) << terminal.out;
+    EXPECT_TRUE(Contains(terminal.out, yellow)) << terminal.out;
+    EXPECT_FALSE(LineWith(terminal.out, {"Remote access controller firmware", "same"}).empty());
+    EXPECT_FALSE(Contains(LineWith(terminal.out, {"Remote access controller firmware"}), "\x1B["))
+        << "same is not coloured";
+
+    EXPECT_FALSE(Contains(RunOnTerminal(args, 100, {"NO_COLOR=1"}).out, "\x1B["));
+    EXPECT_TRUE(Contains(RunOnTerminal(args, 100, {"NO_COLOR="}).out, green)) << "an empty NO_COLOR is unset";
+    EXPECT_FALSE(Contains(RunOnTerminal(args, 100, {"TERM=dumb"}).out, "\x1B["));
+    std::vector<std::string> never = args;
+    never.insert(never.end(), {"--color", "never"});
+    EXPECT_FALSE(Contains(RunOnTerminal(never).out, "\x1B["));
+    std::vector<std::string> always = args;
+    always.insert(always.end(), {"--color", "always"});
+    EXPECT_TRUE(Contains(RunOnTerminal(always, 100, {"NO_COLOR=1"}).out, green)) << "the option wins";
+
+    EXPECT_FALSE(Contains(Run(args).out, "\x1B[")) << "no colour into a pipe";
+    Result forced = Run(always);
+    EXPECT_TRUE(Contains(forced.out, green));
+    EXPECT_EQ(Plain(forced.out), Run(args).out) << "colour adds escapes and moves nothing";
 }
 
 TEST_F(ToolTest, UpdatesTableCutsLongTextsWithAnEllipsis)
@@ -48,8 +110,8 @@ TEST_F(ToolTest, UpdatesTableCutsLongTextsWithAnEllipsis)
     std::string inventory =
         Variant(kInventory, "long.xml", "display=\"Update agent\"/>",
                 "display=\"Update agent with a name long enough to overflow any reasonable column of a table\"/>");
-    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", inventory});
-    ASSERT_EQ(result.status, 0) << result.err;
+    Result result = RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", inventory});
+    ASSERT_EQ(result.status, 0) << result.out;
     ExpectFits(result.out);
     EXPECT_FALSE(LineWith(result.out, {"Update agent with", "\xE2\x80\xA6", "5.1.4", "5.2.0"}).empty())
         << result.out;
@@ -148,12 +210,12 @@ TEST_F(ToolTest, UpdatesRejectsAnUnknownBundleType)
 
 TEST_F(ToolTest, BundleTable)
 {
-    Result result = Run({"bundle", "--catalog", kCatalog, "--inventory", kInventory});
+    Result result = RunOnTerminal({"bundle", "--catalog", kCatalog, "--inventory", kInventory}, 80);
     ASSERT_EQ(result.status, 0) << result.err;
     EXPECT_FALSE(LineWith(result.out, {"BTW64", "S740W64.00041", "26.11.00", "22", "45"}).empty()) << result.out;
-    EXPECT_FALSE(LineWith(result.out, {"BTLX", "S740LX.00042", "46", "bundles/s740-btlx.tar.gz"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"BTLX", "S740LX.00042", "46", "btlx.tar.gz"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"BTW32", "none"}).empty());
-    ExpectFits(result.out);
+    ExpectFits(result.out, 80);
 }
 
 TEST_F(ToolTest, BundleJson)
@@ -182,7 +244,7 @@ TEST_F(ToolTest, BundleJson)
 
 TEST_F(ToolTest, CatalogTable)
 {
-    Result result = Run({"catalog", "--catalog", kCatalog});
+    Result result = RunOnTerminal({"catalog", "--catalog", kCatalog}, 80);
     ASSERT_EQ(result.status, 0) << result.err;
     EXPECT_FALSE(LineWith(result.out, {"base location", "updates.example.com/catalog"}).empty()) << result.out;
     EXPECT_FALSE(LineWith(result.out, {"release", "R2026-11"}).empty());
@@ -190,7 +252,7 @@ TEST_F(ToolTest, CatalogTable)
     EXPECT_FALSE(LineWith(result.out, {"date", "1763683200"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"W22", "updates.example.com/catalog/collectors/invcol_w64.exe"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"total", "48"}).empty());
-    ExpectFits(result.out);
+    ExpectFits(result.out, 80);
 }
 
 TEST_F(ToolTest, CatalogJson)
@@ -221,14 +283,14 @@ TEST_F(ToolTest, CatalogJson)
 
 TEST_F(ToolTest, InventoryTable)
 {
-    Result result = Run({"inventory", "--inventory", kInventory});
+    Result result = RunOnTerminal({"inventory", "--inventory", kInventory}, 80);
     ASSERT_EQ(result.status, 0) << result.err;
     EXPECT_FALSE(LineWith(result.out, {"system id", "0A6B"}).empty()) << result.out;
     EXPECT_FALSE(LineWith(result.out, {"W22", "Example", "x64", "Server OS 2022"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"Dual-port 25GbE adapter", "8086:1593"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"25GbE adapter driver", "DRVR", "1.13.2"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"9 devices", "11 applications"}).empty());
-    ExpectFits(result.out);
+    ExpectFits(result.out, 80);
 }
 
 TEST_F(ToolTest, InventoryJson)
@@ -262,12 +324,12 @@ TEST_F(ToolTest, InventoryJson)
 
 TEST_F(ToolTest, CategoriesTable)
 {
-    Result result = Run({"categories", "--catalog", kCatalog});
+    Result result = RunOnTerminal({"categories", "--catalog", kCatalog}, 80);
     ASSERT_EQ(result.status, 0) << result.err;
     EXPECT_FALSE(LineWith(result.out, {"Storage Controllers", "SF2"}).empty()) << result.out;
     EXPECT_FALSE(LineWith(result.out, {"Systems Management", "SystemsManagement"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"BI", "BIOS"}).empty());
-    ExpectFits(result.out);
+    ExpectFits(result.out, 80);
 }
 
 TEST_F(ToolTest, CategoriesJson)
@@ -385,7 +447,7 @@ TEST_F(ToolTest, CatalogWithABundleLackingContents)
 
 // -------------------------------------------------------------------- usage
 
-TEST_F(ToolTest, BadUsageExitsWithOne)
+TEST_F(ToolTest, BadUsageExitsWith64)
 {
     Result unknownOption = Run({"catalog", "--catalog", kCatalog, "--bogus"});
     EXPECT_EQ(unknownOption.status, 64);
@@ -402,6 +464,85 @@ TEST_F(ToolTest, BadUsageExitsWithOne)
     EXPECT_EQ(Run({"collector", "--catalog", kCatalog}).status, 64);
 }
 
+TEST_F(ToolTest, HelpCommandPrintsWhatTheHelpOptionPrints)
+{
+    EXPECT_EQ(Run({"help"}).out, Run({"--help"}).out);
+    for (const char* command : {"updates", "explain", "bundle", "catalog", "inventory", "categories", "collector",
+                                "compare", "fleet", "help"}) {
+        Result help = Run({"help", command});
+        EXPECT_EQ(help.status, 0) << command;
+        EXPECT_TRUE(Contains(help.out, std::string("Usage: qrmkit ") + command)) << help.out;
+        EXPECT_EQ(help.out, Run({command, "--help"}).out) << command;
+    }
+    Result unknown = Run({"help", "updaets"});
+    EXPECT_EQ(unknown.status, 64);
+    EXPECT_TRUE(Contains(unknown.err, "did you mean 'updates'?")) << unknown.err;
+}
+
+TEST_F(ToolTest, UnknownCommandIsNamedWithTheNearestCommand)
+{
+    ExpectFailure(Run({"updaets", "--catalog", kCatalog}), {"unknown command 'updaets'; did you mean 'updates'?"}, 64);
+    ExpectFailure(Run({"--color", "never", "catlog"}), {"unknown command 'catlog'; did you mean 'catalog'?"}, 64);
+    ExpectFailure(Run({"frobnicate"}),
+                  {"unknown command 'frobnicate'; the commands are updates, explain, bundle, catalog"}, 64);
+    nlohmann::json document = nlohmann::json::parse(Run({"invetnory", "--json"}).out);
+    EXPECT_EQ(document["error"]["code"], "usage");
+    EXPECT_EQ(document["error"]["message"], "unknown command 'invetnory'; did you mean 'inventory'?");
+}
+
+TEST_F(ToolTest, GlobalOptionsComeBeforeOrAfterTheCommand)
+{
+    const std::vector<std::string> command = {"updates", "--catalog", kCatalog, "--inventory", kInventory};
+    std::vector<std::string> after = command;
+    after.insert(after.end(), {"--color", "always"});
+    std::vector<std::string> before = {"--color", "always"};
+    before.insert(before.end(), command.begin(), command.end());
+    Result first = Run(before);
+    EXPECT_EQ(first.status, 0) << first.err;
+    EXPECT_TRUE(Contains(first.out, "\x1B[32mnewer"));
+    EXPECT_EQ(first.out, Run(after).out);
+
+    std::vector<std::string> quietAfter = command;
+    quietAfter.push_back("-q");
+    std::vector<std::string> quietBefore = {"--quiet"};
+    quietBefore.insert(quietBefore.end(), command.begin(), command.end());
+    EXPECT_EQ(Run(quietAfter).out, "");
+    EXPECT_EQ(Run(quietBefore).out, "");
+}
+
+TEST_F(ToolTest, QuietPrintsNothingAndKeepsTheExitStatus)
+{
+    Result check = Run({"-q", "updates", "--catalog", kCatalog, "--inventory", kInventory, "--check"});
+    EXPECT_EQ(check.status, 100);
+    EXPECT_EQ(check.out, "");
+    EXPECT_EQ(check.err, "");
+    Result json = Run({"-q", "catalog", "--catalog", kCatalog, "--json"});
+    EXPECT_EQ(json.status, 0);
+    EXPECT_EQ(json.out, "");
+    ExpectFailure(Run({"-q", "catalog", "--catalog", Path("absent.xml")}), {"absent.xml", "does not exist"});
+
+    const std::string report = Path("report.jsonl");
+    Result fleet = Run({"-q", "fleet", "--catalog", kCatalog, kInventory});
+    EXPECT_EQ(fleet.status, 0);
+    EXPECT_EQ(fleet.out, "");
+    Result toFile = Run({"-q", "fleet", "--catalog", kCatalog, "--output", report, kInventory});
+    EXPECT_EQ(toFile.out, "");
+    EXPECT_EQ(Lines(ReadFile(report)).size(), 1U) << "a report file is still written";
+}
+
+TEST_F(ToolTest, VerboseSaysOnStandardErrorWhatIsReadAndChosen)
+{
+    const std::vector<std::string> command = {"updates", "--catalog", kCatalog, "--inventory", kInventory};
+    std::vector<std::string> verbose = command;
+    verbose.push_back("--verbose");
+    Result result = Run(verbose);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, Run(command).out) << "standard output is the same";
+    EXPECT_FALSE(LineWith(result.err, {"qrmkit: ", "bundle S740W64.00041 of type BTW64", "auto"}).empty())
+        << result.err;
+    EXPECT_EQ(Run(command).err, "");
+}
+
 TEST_F(ToolTest, HelpForEveryCommand)
 {
     Result top = Run({"--help"});
@@ -416,18 +557,19 @@ TEST_F(ToolTest, HelpForEveryCommand)
     }
 }
 
-TEST_F(ToolTest, Version)
+TEST_F(ToolTest, VersionNamesTheToolAndTheLibraryItRunsWith)
 {
     Result result = Run({"--version"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.out, "qrmkit 1.0.0\n");
+    EXPECT_EQ(result.out, std::string("qrmkit ") + QRMKIT_PROJECT_VERSION + "\nlibqrmkit " + QRMKIT_PROJECT_VERSION + "\n");
+    EXPECT_EQ(result.err, "");
 }
 
 TEST_F(ToolTest, VersionHasAShortOption)
 {
     Result result = Run({"-V"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.out, "qrmkit 1.0.0\n");
+    EXPECT_EQ(result.out, Run({"--version"}).out);
 }
 
 // ------------------------------------------------------- scripts and pipelines

@@ -8,9 +8,11 @@
 #include <nlohmann/json.hpp>
 
 #include <fcntl.h>
+#include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -65,8 +67,28 @@ inline std::vector<std::string> Lines(const std::string& text)
     return lines;
 }
 
-inline std::size_t CodePoints(const std::string& line)
+// The text without its colour escape sequences ("\x1B[...m").
+inline std::string Plain(const std::string& text)
 {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\x1B' && i + 1 < text.size() && text[i + 1] == '[') {
+            const std::size_t end = text.find('m', i);
+            if (end != std::string::npos) {
+                i = end;
+                continue;
+            }
+        }
+        plain += text[i];
+    }
+    return plain;
+}
+
+// The code points of a line as a terminal shows them (colour escapes take
+// no room).
+inline std::size_t CodePoints(const std::string& text)
+{
+    const std::string line = Plain(text);
     std::size_t count = 0;
     for (char c : line) {
         if ((static_cast<unsigned char>(c) & 0xC0U) != 0x80U) {
@@ -173,10 +195,86 @@ protected:
         return result;
     }
 
-    static void ExpectFits(const std::string& text)
+    static int ExitStatus(pid_t pid)
+    {
+        int status = 0;
+        EXPECT_EQ(waitpid(pid, &status, 0), pid);
+        EXPECT_TRUE(WIFEXITED(status));
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    // Runs the tool on a terminal of its own, `columns` wide (standard
+    // output too, unless `outPath` names a file for it), and gives what the
+    // terminal showed, with its line ends ("\r\n") as "\n". The tool sees no COLUMNS
+    // and no NO_COLOR and TERM=xterm, unless `environment` says otherwise
+    // ("NAME=VALUE" sets, "NAME" unsets).
+    std::string RunOnTerminal(const std::vector<std::string>& args, const std::string& outPath, int& status,
+                              unsigned short columns = 100, const std::vector<std::string>& environment = {})
+    {
+        int terminal = -1;
+        winsize size{};
+        size.ws_row = 50;
+        size.ws_col = columns;
+        pid_t child = forkpty(&terminal, nullptr, nullptr, &size);
+        if (child == 0) {
+            unsetenv("COLUMNS");
+            unsetenv("NO_COLOR");
+            setenv("TERM", "xterm", 1);
+            for (const std::string& setting : environment) {
+                const std::size_t equals = setting.find('=');
+                if (equals == std::string::npos) {
+                    unsetenv(setting.c_str());
+                } else {
+                    setenv(setting.substr(0, equals).c_str(), setting.substr(equals + 1).c_str(), 1);
+                }
+            }
+            int out = outPath.empty() ? 1 : open(outPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            if (out < 0 || dup2(out, 1) < 0) {
+                _exit(127);
+            }
+            ExecTool(args);
+        }
+        EXPECT_GE(child, 0);
+        std::string screen;
+        char buffer[4096];
+        for (ssize_t count; (count = read(terminal, buffer, sizeof buffer)) > 0;) {
+            screen.append(buffer, static_cast<std::size_t>(count));
+        }
+        close(terminal);
+        status = ExitStatus(child);
+        std::string text;
+        for (std::size_t i = 0; i < screen.size(); ++i) {
+            if (screen[i] != '\r' || i + 1 == screen.size() || screen[i + 1] != '\n') {
+                text += screen[i];
+            }
+        }
+        return text;
+    }
+
+    // The same, as a Result: what the terminal showed is the output.
+    Result RunOnTerminal(const std::vector<std::string>& args, unsigned short columns = 100,
+                         const std::vector<std::string>& environment = {})
+    {
+        Result result;
+        result.out = RunOnTerminal(args, std::string(), result.status, columns, environment);
+        return result;
+    }
+
+    // The width of the widest line, in code points.
+    static std::size_t Widest(const std::string& text)
+    {
+        std::size_t widest = 0;
+        for (const std::string& line : Lines(text)) {
+            widest = std::max(widest, CodePoints(line));
+        }
+        return widest;
+    }
+
+    // Every line at most `columns` code points wide.
+    static void ExpectFits(const std::string& text, std::size_t columns = 100)
     {
         for (const std::string& line : Lines(text)) {
-            EXPECT_LE(CodePoints(line), 100U) << line;
+            EXPECT_LE(CodePoints(line), columns) << line;
         }
     }
 

@@ -12,8 +12,6 @@
 
 namespace qrmtool {
 
-namespace {
-
 // ---------------------------------------------------------------- helpers
 
 std::string Text(const Json& value)
@@ -27,7 +25,6 @@ std::string Text(const Json& value)
     return value.dump();
 }
 
-// "0A6B", or null when the inventory does not name exactly one system.
 Json SystemID(unsigned int id) { return id == 0 ? Json() : Json(Hex(id)); }
 
 std::string SystemPhrase(const Json& systemID)
@@ -35,28 +32,12 @@ std::string SystemPhrase(const Json& systemID)
     return systemID.is_null() ? std::string("an inventory without a single system") : "system " + Text(systemID);
 }
 
-// Lines of "key  value" pairs under a title, keys padded to one width.
-std::string KeyValues(const std::string& title, const std::vector<std::pair<std::string, std::string>>& pairs)
-{
-    std::size_t keyWidth = 0;
-    for (const auto& pair : pairs) {
-        keyWidth = std::max(keyWidth, DisplayWidth(pair.first));
-    }
-    std::string out = Fit(OneLine(title), kMaxWidth) + "\n";
-    for (const auto& pair : pairs) {
-        std::string line = "  " + pair.first + std::string(keyWidth - DisplayWidth(pair.first) + 2, ' ');
-        std::size_t room = kMaxWidth - DisplayWidth(line);
-        out += line + Fit(OneLine(pair.second), room) + "\n";
-    }
-    return out;
-}
-
 std::string Plural(std::size_t count, const std::string& one, const std::string& many)
 {
     return std::to_string(count) + " " + (count == 1 ? one : many);
 }
 
-std::string Join(const Json& list, const char* separator = ", ")
+std::string Join(const Json& list, const char* separator)
 {
     std::string out;
     for (const Json& item : list) {
@@ -64,6 +45,25 @@ std::string Join(const Json& list, const char* separator = ", ")
             out += separator;
         }
         out += Text(item);
+    }
+    return out;
+}
+
+namespace {
+
+// Lines of "key  value" pairs under a title, keys padded to one width.
+std::string KeyValues(const std::string& title, const std::vector<std::pair<std::string, std::string>>& pairs,
+                      const Style& style)
+{
+    std::size_t keyWidth = 0;
+    for (const auto& pair : pairs) {
+        keyWidth = std::max(keyWidth, DisplayWidth(pair.first));
+    }
+    std::string out = Fit(OneLine(title), style.width) + "\n";
+    for (const auto& pair : pairs) {
+        std::string line = "  " + pair.first + std::string(keyWidth - DisplayWidth(pair.first) + 2, ' ');
+        std::size_t room = style.width - std::min(style.width, DisplayWidth(line));
+        out += line + Fit(OneLine(pair.second), room) + "\n";
     }
     return out;
 }
@@ -77,8 +77,31 @@ QRMOSArchitectureEnum InventoryArchitecture()
     return oses.empty() ? QRM_OS_ARCH_X64 : oses.front().GetArchitecture();
 }
 
-// The bundle type a "--bundle-type" text names (QRM_BUNDLE_BTW32 for
-// "auto"), or a ToolError for a text that names none.
+}  // namespace
+
+Json UpdateEntry(const QRMIDevice& device, const QRMIApplication& application, const QRMSoftwareComponent& component,
+                 const std::string& base)
+{
+    const QRMCategory category = component.GetCategory();
+    const std::string path = Utf8(component.GetPath());
+    Json entry;
+    entry["device"] = Utf8(device.GetDisplay());
+    entry["application"] = Utf8(application.GetDisplay());
+    entry["installed_version"] = Utf8(application.GetVersion());
+    entry["available_version"] = Utf8(component.GetVendorVersion());
+    entry["status"] =
+        StatusWord(QRMKitAPI::Instance()->CompareVersion(component.GetVendorVersion(), application.GetVersion()));
+    entry["component_type"] = ComponentTypeWord(component.GetComponentType().GetValue());
+    entry["criticality"] = CriticalityWord(component.GetCriticality().GetValue());
+    entry["category"] = {{"code", Utf8(category.GetCode())}, {"text", FirstText(category)}};
+    entry["name"] = FirstText(component.GetName());
+    entry["package_id"] = Utf8(component.GetPackageID());
+    entry["path"] = path;
+    entry["location"] = base + "/" + path;
+    entry["release_id"] = Utf8(component.GetReleaseID());
+    return entry;
+}
+
 QRMBundleTypeEnum RequestedBundleType(const std::string& bundleType)
 {
     QRMBundleTypeEnum type = QRM_BUNDLE_BTW32;
@@ -87,8 +110,6 @@ QRMBundleTypeEnum RequestedBundleType(const std::string& bundleType)
     }
     return type;
 }
-
-}  // namespace
 
 Json NewDocument()
 {
@@ -111,38 +132,52 @@ Json CollectUpdates(const std::string& catalog, const std::string& inventory, co
     return EvaluateUpdates(catalog, inventory, bundleType);
 }
 
+BundleChoice ChooseBundle(const std::string& bundleType)
+{
+    BundleChoice choice;
+    choice.automatic = bundleType == "auto";
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    if (!choice.automatic) {
+        choice.type = RequestedBundleType(bundleType);
+        choice.bundle = api->GetApplicableBundle(choice.type);
+    } else {
+        for (QRMBundleTypeEnum candidate : kBundleTypes) {
+            choice.bundle = api->GetApplicableBundle(candidate);
+            if (choice.bundle != nullptr) {
+                choice.type = candidate;
+                break;
+            }
+        }
+    }
+    if (choice.bundle != nullptr) {
+        Note("bundle " + Utf8(choice.bundle->GetBundleID()) + " of type " + BundleTypeWord(choice.type) +
+             (choice.automatic ? " (auto: the first type with a bundle for this system)" : ""));
+    }
+    return choice;
+}
+
+ToolError NoBundle(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
+{
+    const std::string what = bundleType == "auto" ? "no bundle of any type" : "no " + bundleType + " bundle";
+    return ToolError("no-bundle",
+                     inventory + ": " + what + " in " + catalog + " applies to " +
+                         SystemPhrase(SystemID(QRMKitAPI::Instance()->GetSystemIDFromInventory())),
+                     inventory);
+}
+
 Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
 {
-    QRMBundleTypeEnum type = RequestedBundleType(bundleType);
-    const bool automatic = bundleType == "auto";
+    RequestedBundleType(bundleType);
     LoadInventory(inventory);
     QRMKitAPI* api = QRMKitAPI::Instance();
     const Json systemID = SystemID(api->GetSystemIDFromInventory());
 
-    QRMSoftwareBundle* bundle = nullptr;
-    if (automatic) {
-        for (QRMBundleTypeEnum candidate : kBundleTypes) {
-            bundle = api->GetApplicableBundle(candidate);
-            if (bundle != nullptr) {
-                type = candidate;
-                break;
-            }
-        }
-        if (bundle == nullptr) {
-            throw ToolError("no-bundle",
-                            inventory + ": no bundle of any type in " + catalog + " applies to " +
-                                SystemPhrase(systemID),
-                            inventory);
-        }
-    } else {
-        bundle = api->GetApplicableBundle(type);
-        if (bundle == nullptr) {
-            throw ToolError("no-bundle",
-                            inventory + ": no " + bundleType + " bundle in " + catalog + " applies to " +
-                                SystemPhrase(systemID),
-                            inventory);
-        }
+    const BundleChoice choice = ChooseBundle(bundleType);
+    if (choice.bundle == nullptr) {
+        throw NoBundle(catalog, inventory, bundleType);
     }
+    QRMSoftwareBundle* bundle = choice.bundle;
+    const QRMBundleTypeEnum type = choice.type;
 
     std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
     QRMKitReturnCode code = api->GetApplicableUpdates(updates, InventoryArchitecture(), type);
@@ -168,26 +203,8 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
             if (found == updates.end()) {
                 continue;
             }
-            const QRMSoftwareComponent& component = *found->second;
-            const std::string status =
-                StatusWord(api->CompareVersion(component.GetVendorVersion(), application->GetVersion()));
-            ++counts[status];
-            const QRMCategory category = component.GetCategory();
-            const std::string path = Utf8(component.GetPath());
-            Json entry;
-            entry["device"] = Utf8(device->GetDisplay());
-            entry["application"] = Utf8(application->GetDisplay());
-            entry["installed_version"] = Utf8(application->GetVersion());
-            entry["available_version"] = Utf8(component.GetVendorVersion());
-            entry["status"] = status;
-            entry["component_type"] = ComponentTypeWord(component.GetComponentType().GetValue());
-            entry["criticality"] = CriticalityWord(component.GetCriticality().GetValue());
-            entry["category"] = {{"code", Utf8(category.GetCode())}, {"text", FirstText(category)}};
-            entry["name"] = FirstText(component.GetName());
-            entry["package_id"] = Utf8(component.GetPackageID());
-            entry["path"] = path;
-            entry["location"] = base + "/" + path;
-            entry["release_id"] = Utf8(component.GetReleaseID());
+            Json entry = UpdateEntry(*device, *application, *found->second, base);
+            ++counts[entry["status"].get<std::string>()];
             list.push_back(std::move(entry));
         }
     }
@@ -202,7 +219,7 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
     document["system_id"] = systemID;
     document["bundle"] = {{"id", Utf8(bundle->GetBundleID())},
                           {"type", BundleTypeWord(type)},
-                          {"selection", automatic ? "auto" : "requested"},
+                          {"selection", choice.automatic ? "auto" : "requested"},
                           {"path", Utf8(bundle->GetPath())},
                           {"vendor_version", Utf8(bundle->GetVendorVersion())},
                           {"packages", contents.size()}};
@@ -217,24 +234,24 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
     return document;
 }
 
-std::string RenderUpdates(const Json& document)
+std::string RenderUpdates(const Json& document, const Style& style)
 {
     const Json& bundle = document["bundle"];
     std::string out;
     out += Fit(OneLine("Updates for " + SystemPhrase(document["system_id"]) + " from catalog " +
                        Text(document["catalog_release"]) + " (" + Text(document["catalog"]) + ")"),
-               kMaxWidth) +
+               style.width) +
            "\n";
     std::string how = Text(bundle["selection"]) == "auto"
                           ? " (auto: the first bundle type that applies to this system)"
                           : " (as requested)";
-    out += Fit(OneLine("Bundle " + Text(bundle["id"]) + ", type " + Text(bundle["type"]) + how), kMaxWidth) +
+    out += Fit(OneLine("Bundle " + Text(bundle["id"]) + ", type " + Text(bundle["type"]) + how), style.width) +
            "\n\n";
 
     Table table({{"DEVICE / APPLICATION", true, 12},
                  {"INSTALLED", true, 9},
                  {"AVAILABLE", true, 9},
-                 {"STATUS"},
+                 {"STATUS", false, 0, false, StatusPaint},
                  {"TYPE"},
                  {"CRIT"},
                  {"CATEGORY", true, 10}},
@@ -252,7 +269,7 @@ std::string RenderUpdates(const Json& document)
                       Text(update["criticality"]), Text(update["category"]["text"])});
         table.AddLine("package " + Text(update["location"]) + " (release " + Text(update["release_id"]) + ")", 4);
     }
-    out += table.Render(kMaxWidth);
+    out += table.Render(style);
 
     const Json& summary = document["summary"];
     const std::size_t count = summary["updates"].get<std::size_t>();
@@ -260,7 +277,7 @@ std::string RenderUpdates(const Json& document)
     if (document.contains("only")) {
         out += Fit("Showing only: " + Join(document["only"]) + " (" + std::to_string(document["updates"].size()) +
                        " of " + std::to_string(count) + " updates).",
-                   kMaxWidth) +
+                   style.width) +
                "\n";
     }
     out += Fit(Plural(count, "update", "updates") + " for " +
@@ -269,10 +286,12 @@ std::string RenderUpdates(const Json& document)
                    ": " + Text(summary["newer"]) + " newer, " + Text(summary["same"]) + " same, " +
                    Text(summary["older"]) + " older, " + Text(summary["unknown"]) + " unknown; " +
                    Text(summary["without_update"]) + " without an update.",
-               kMaxWidth) +
+               style.width) +
            "\n";
     if (count > 0) {
-        out += "STATUS compares the available version with the installed one; CRIT is the criticality.\n";
+        out += Fit("STATUS compares the available version with the installed one; CRIT is the criticality.",
+                   style.width) +
+               "\n";
     }
     return out;
 }
@@ -311,11 +330,11 @@ Json CollectBundles(const std::string& catalog, const std::string& inventory)
     return document;
 }
 
-std::string RenderBundles(const Json& document)
+std::string RenderBundles(const Json& document, const Style& style)
 {
     std::string out = Fit(OneLine("Bundles for " + SystemPhrase(document["system_id"]) + " in catalog " +
                                   Text(document["catalog_release"]) + " (" + Text(document["catalog"]) + ")"),
-                          kMaxWidth) +
+                          style.width) +
                       "\n\n";
     Table table({{"TYPE"},
                  {"APPLICABLE BUNDLE", true, 12},
@@ -334,7 +353,7 @@ std::string RenderBundles(const Json& document)
                           Text(bundle["packages"]), Text(entry["greatest_bundle_number"]), Text(bundle["path"])});
         }
     }
-    out += table.Render(kMaxWidth);
+    out += table.Render(style);
     out += "\n" + std::to_string(applicable) + " of " + std::to_string(document["bundle_types"].size()) +
            " bundle types have an applicable bundle.\n";
     return out;
@@ -404,29 +423,30 @@ Json CollectCatalog(const std::string& catalog)
 
 namespace {
 
-std::string CountTable(const std::string& header, const Json& counts, const Json& total)
+std::string CountTable(const std::string& header, const Json& counts, const Json& total, const Style& style)
 {
     Table table({{header, true, 8}, {"COUNT"}});
     for (const auto& item : counts.items()) {
         table.AddRow({item.key(), Text(item.value())});
     }
     table.AddRow({"total", Text(total)});
-    return table.Render(kMaxWidth);
+    return table.Render(style);
 }
 
 }  // namespace
 
-std::string RenderCatalog(const Json& document)
+std::string RenderCatalog(const Json& document, const Style& style)
 {
     std::string out = KeyValues("Catalog " + Text(document["catalog"]),
                                 {{"base location", Text(document["base_location"])},
                                  {"release", Text(document["release_id"])},
                                  {"version", Text(document["version"])},
-                                 {"date", Text(document["date_time"])}});
-    out += "\n" + CountTable("BUNDLE TYPE", document["bundles"]["by_type"], document["bundles"]["total"]);
-    out += "\n" + CountTable("COMPONENT TYPE", document["components"]["by_type"], document["components"]["total"]);
+                                 {"date", Text(document["date_time"])}},
+                                style);
+    out += "\n" + CountTable("BUNDLE TYPE", document["bundles"]["by_type"], document["bundles"]["total"], style);
+    out += "\n" + CountTable("COMPONENT TYPE", document["components"]["by_type"], document["components"]["total"], style);
     out += "\n" + CountTable("CRITICALITY", document["components"]["by_criticality"],
-                             document["components"]["total"]);
+                             document["components"]["total"], style);
     out += "\n";
     if (document["inventory_collectors"].empty()) {
         out += "No inventory collectors.\n";
@@ -436,7 +456,7 @@ std::string RenderCatalog(const Json& document)
             table.AddRow({Text(collector["os_code"]), Text(collector["vendor_version"]),
                           Text(collector["location"])});
         }
-        out += table.Render(kMaxWidth);
+        out += table.Render(style);
     }
     return out;
 }
@@ -515,7 +535,7 @@ Json CollectInventory(const std::string& inventory)
     return document;
 }
 
-std::string RenderInventory(const Json& document)
+std::string RenderInventory(const Json& document, const Style& style)
 {
     const Json& systemID = document["system_id"];
     std::string out = KeyValues(
@@ -523,7 +543,8 @@ std::string RenderInventory(const Json& document)
         {{"system id", systemID.is_null() ? "none (the inventory does not name exactly one system)" : Text(systemID)},
          {"language", Text(document["language"])},
          {"schema", Text(document["inventory_schema_version"])},
-         {"time stamp", Text(document["time_stamp"])}});
+         {"time stamp", Text(document["time_stamp"])}},
+        style);
 
     out += "\n";
     if (document["systems"].empty()) {
@@ -534,7 +555,7 @@ std::string RenderInventory(const Json& document)
             systems.AddRow({Text(system["system_id"]), Text(system["id_type"]), Text(system["display"]),
                             Text(system["service_tag"])});
         }
-        out += systems.Render(kMaxWidth);
+        out += systems.Render(style);
     }
 
     out += "\n";
@@ -552,7 +573,7 @@ std::string RenderInventory(const Json& document)
                          Text(os["major_version"]) + "." + Text(os["minor_version"]),
                          Text(os["sp_major_version"]) + "." + Text(os["sp_minor_version"]), Text(os["display"])});
         }
-        out += oses.Render(kMaxWidth);
+        out += oses.Render(style);
     }
 
     out += "\n";
@@ -571,7 +592,7 @@ std::string RenderInventory(const Json& document)
                             Text(application["version"]), ""});
         }
     }
-    out += devices.Render(kMaxWidth);
+    out += devices.Render(style);
     out += "\n" + Plural(document["summary"]["devices"].get<std::size_t>(), "device", "devices") + ", " +
            Plural(document["summary"]["applications"].get<std::size_t>(), "application", "applications") + ".\n";
     return out;
@@ -621,9 +642,9 @@ Json CollectCategories(const std::string& catalog)
     return document;
 }
 
-std::string RenderCategories(const Json& document)
+std::string RenderCategories(const Json& document, const Style& style)
 {
-    std::string out = Fit(OneLine("Categories of catalog " + Text(document["catalog"])), kMaxWidth) + "\n\n";
+    std::string out = Fit(OneLine("Categories of catalog " + Text(document["catalog"])), style.width) + "\n\n";
     if (document["categories"].empty()) {
         return out + "No categories.\n";
     }
@@ -631,12 +652,12 @@ std::string RenderCategories(const Json& document)
     for (const Json& category : document["categories"]) {
         categories.AddRow({Text(category["text"]), Join(category["codes"]), Join(category["acronyms"])});
     }
-    out += categories.Render(kMaxWidth) + "\n";
+    out += categories.Render(style) + "\n";
     Table acronyms({{"ACRONYM", true, 8}, {"CATEGORY", true, 12}});
     for (const auto& item : document["acronyms"].items()) {
         acronyms.AddRow({item.key(), Text(item.value())});
     }
-    out += acronyms.Render(kMaxWidth);
+    out += acronyms.Render(style);
     out += "\n" + Plural(document["categories"].size(), "category", "categories") + ", " +
            Plural(document["acronyms"].size(), "acronym", "acronyms") + ".\n";
     return out;
@@ -671,7 +692,7 @@ Json CollectCollector(const std::string& catalog, const std::string& osCode)
     return document;
 }
 
-std::string RenderCollector(const Json& document) { return Text(document["location"]) + "\n"; }
+std::string RenderCollector(const Json& document, const Style&) { return Text(document["location"]) + "\n"; }
 
 // ---------------------------------------------------------------- compare
 
@@ -690,7 +711,7 @@ Json CollectComparison(const std::string& first, const std::string& second)
     return document;
 }
 
-std::string RenderComparison(const Json& document)
+std::string RenderComparison(const Json& document, const Style&)
 {
     return Text(document["first"]) + " " + Text(document["relation"]) + " " + Text(document["second"]) + "\n";
 }
@@ -704,19 +725,23 @@ Json ErrorDocument(const ToolError& error)
     return document;
 }
 
-void KeepOnly(Json& document, const std::vector<std::string>& statuses)
+void KeepOnly(Json& document, const char* list, const std::vector<std::string>& words)
 {
-    if (statuses.empty()) {
+    if (words.empty()) {
         return;
     }
+    auto listed = [&words](const Json& row, const char* field) {
+        return row.contains(field) && row[field].is_string() &&
+               std::find(words.begin(), words.end(), row[field].get<std::string>()) != words.end();
+    };
     Json kept = Json::array();
-    for (Json& update : document["updates"]) {
-        if (std::find(statuses.begin(), statuses.end(), update["status"].get<std::string>()) != statuses.end()) {
-            kept.push_back(std::move(update));
+    for (Json& row : document[list]) {
+        if (listed(row, "status") || listed(row, "outcome")) {
+            kept.push_back(std::move(row));
         }
     }
-    document["updates"] = std::move(kept);
-    document["only"] = statuses;
+    document[list] = std::move(kept);
+    document["only"] = words;
 }
 
 }  // namespace qrmtool

@@ -20,10 +20,10 @@ namespace qrmtool {
 namespace {
 
 // Where the report goes: standard output or the --output file, with the
-// first write error remembered.
+// first write error remembered. A discarding output writes nothing.
 class Output {
 public:
-    explicit Output(const std::string& path) : mPath(path.empty() ? "standard output" : path)
+    Output(const std::string& path, bool discard) : mPath(path.empty() ? "standard output" : path), mDiscard(discard)
     {
         mFile = path.empty() ? stdout : std::fopen(path.c_str(), "w");
         if (mFile == nullptr) {
@@ -41,9 +41,10 @@ public:
 
     bool IsOpen() const { return mFile != nullptr; }
     bool IsTerminal() const { return mFile != nullptr && isatty(fileno(mFile)) != 0; }
+    Style StyleFor(const std::string& color) const { return qrmtool::StyleFor(fileno(mFile), color); }
     void Write(const std::string& text)
     {
-        if (mError == 0 && (std::fwrite(text.data(), 1, text.size(), mFile) != text.size() ||
+        if (!mDiscard && mError == 0 && (std::fwrite(text.data(), 1, text.size(), mFile) != text.size() ||
                             std::fflush(mFile) != 0)) {
             mError = errno != 0 ? errno : EIO;
         }
@@ -63,6 +64,7 @@ public:
 
 private:
     std::string mPath;
+    bool mDiscard;
     std::FILE* mFile = nullptr;
     int mError = 0;
 };
@@ -92,7 +94,8 @@ bool ParseShard(const std::string& text, unsigned& index, unsigned& count)
 
 int RunFleet(const FleetCommand& command)
 {
-    Output output(command.output);
+    // --quiet silences standard output only: a report file is still written.
+    Output output(command.output, command.quiet && command.output.empty());
     if (!output.IsOpen()) {
         std::cerr << "qrmkit: " << output.Problem() << "\n";
         return kExitFailure;
@@ -125,17 +128,19 @@ int RunFleet(const FleetCommand& command)
     header.catalogRelease = Utf8(QRMKitAPI::Instance()->GetCatalogReleaseID());
     header.bundleType = command.bundleType;
     std::unique_ptr<FleetReport> report =
-        MakeFleetReport(format, header, [&output](const std::string& text) { output.Write(text); });
+        MakeFleetReport(format, header, output.StyleFor(command.color),
+                        [&output](const std::string& text) { output.Write(text); });
 
     FleetRun run;
     run.catalog = command.catalog;
     run.bundleType = command.bundleType;
     run.jobs = command.jobs == 0 ? ProcessorCount() : command.jobs;
     run.timeoutSeconds = command.timeoutSeconds;
+    Note("evaluating " + std::to_string(inputs.size()) + " inventories, " + std::to_string(run.jobs) + " at once");
 
     bool failed = false;
     bool newer = false;
-    FleetProgress progress(inputs.size());
+    FleetProgress progress(inputs.size(), !command.quiet);
     EvaluateFleet(
         inputs, run,
         [&](const FleetResult& result) {

@@ -19,6 +19,8 @@ struct FleetCommand {
     std::string output;        // "": standard output
     bool check = false;
     double timeoutSeconds = 0;
+    std::string color = "auto";  // --color: "auto", "always" or "never"
+    bool quiet = false;          // --quiet: no report on standard output, no progress
 };
 
 // Runs the command and returns its exit status. Reports its own failures.

@@ -34,8 +34,9 @@ private:
 
 class TableReport : public FleetReport {
 public:
-    TableReport(FleetHeader header, FleetWriter write)
+    TableReport(FleetHeader header, const Style& style, FleetWriter write)
         : mHeader(std::move(header)),
+          mStyle(style),
           mWrite(std::move(write)),
           mTable({{"SYSTEM"},
                   {"INVENTORY", true, 12, true},
@@ -43,7 +44,7 @@ public:
                   {"SAME"},
                   {"OLDER"},
                   {"UNKNOWN"},
-                  {"HIGHEST CRIT"}})
+                  {"HIGHEST CRIT", false, 0, false, StatusPaint}})
     {
     }
 
@@ -70,22 +71,25 @@ public:
     {
         std::string out = Fit(OneLine("Fleet updates from catalog " + mHeader.catalogRelease + " (" +
                                       mHeader.catalog + "), bundle type " + mHeader.bundleType),
-                              kMaxWidth) +
+                              mStyle.width) +
                           "\n\n";
-        out += mTable.Render(kMaxWidth);
+        out += mTable.Render(mStyle);
         const FleetTotals& t = mTotals;
         out += "\n" + Count(t.evaluated + t.failed) + " inventories: " + Count(t.evaluated) + " evaluated (" +
                Count(t.withNewer) + " with newer packages), " + Count(t.failed) + " failed.\n";
         out += "Updates: " + Count(t.newer) + " newer, " + Count(t.same) + " same, " + Count(t.older) + " older, " +
                Count(t.unknown) + " unknown.\n";
         if (t.evaluated > 0) {
-            out += "NEWER: packages newer than what is installed; HIGHEST CRIT: the highest criticality among them.\n";
+            out += Fit("NEWER: packages newer than what is installed; HIGHEST CRIT: the highest criticality among them.",
+                       mStyle.width) +
+                   "\n";
         }
         mWrite(out);
     }
 
 private:
     FleetHeader mHeader;
+    Style mStyle;
     FleetWriter mWrite;
     Table mTable;
     FleetTotals mTotals;
@@ -137,19 +141,20 @@ ComputerSummary Summarize(const Json& result)
     return computer;
 }
 
-std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const FleetHeader& header, FleetWriter write)
+std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const FleetHeader& header,
+                                             const Style& style, FleetWriter write)
 {
     if (format == "html") {
         return MakeHtmlFleetReport(header, std::move(write));
     }
     if (format == "table") {
-        return std::make_unique<TableReport>(header, std::move(write));
+        return std::make_unique<TableReport>(header, style, std::move(write));
     }
     return std::make_unique<JsonLinesReport>(std::move(write));
 }
 
-FleetProgress::FleetProgress(std::size_t total)
-    : mTotal(total), mEnabled(isatty(2) != 0), mStart(std::chrono::steady_clock::now()), mLast(mStart)
+FleetProgress::FleetProgress(std::size_t total, bool wanted)
+    : mTotal(total), mEnabled(wanted && isatty(2) != 0), mStart(std::chrono::steady_clock::now()), mLast(mStart)
 {
 }
 

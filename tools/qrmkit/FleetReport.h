@@ -8,6 +8,7 @@
 
 #include "Commands.h"
 #include "Fleet.h"
+#include "Table.h"
 
 #include <chrono>
 #include <cstddef>
@@ -67,16 +68,17 @@ public:
 
 using FleetWriter = std::function<void(const std::string& text)>;
 
-// `format` is "jsonl", "table" or "html".
+// `format` is "jsonl", "table" or "html"; the style lays out the table.
 std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const FleetHeader& header,
-                                             FleetWriter write);
+                                             const Style& style, FleetWriter write);
 std::unique_ptr<FleetReport> MakeHtmlFleetReport(const FleetHeader& header, FleetWriter write);
 
 // A progress line (done / total, rate, time left) rewritten in place on
-// standard error, when standard error is a terminal; silent otherwise.
+// standard error, when it is wanted and standard error is a terminal;
+// silent otherwise.
 class FleetProgress {
 public:
-    explicit FleetProgress(std::size_t total);
+    FleetProgress(std::size_t total, bool wanted);
     void Update(std::size_t done);
     // Clears the line.
     void Finish();

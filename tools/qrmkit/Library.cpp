@@ -122,4 +122,21 @@ std::string StatusWord(int comparison)
     }
 }
 
+namespace {
+
+bool gVerbose = false;
+
+}  // namespace
+
+void SetVerbose(bool verbose) { gVerbose = verbose; }
+
+bool IsVerbose() { return gVerbose; }
+
+void Note(const std::string& text)
+{
+    if (gVerbose) {
+        std::fprintf(stderr, "qrmkit: %s\n", text.c_str());
+    }
+}
+
 }  // namespace qrmtool

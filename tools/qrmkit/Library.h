@@ -45,6 +45,12 @@ int ExitStatusFor(const ToolError& error);
 void LoadCatalog(const std::string& path);
 void LoadInventory(const std::string& path);
 
+// With --verbose, notes on standard error say what is read and chosen.
+void SetVerbose(bool verbose);
+bool IsVerbose();
+// Writes "qrmkit: TEXT" on standard error when verbose.
+void Note(const std::string& text);
+
 // Every bundle type, in enumeration order.
 constexpr std::array<QRMBundleTypeEnum, 6> kBundleTypes = {QRM_BUNDLE_BTW32, QRM_BUNDLE_BTW64, QRM_BUNDLE_BTLX,
                                                            QRM_BUNDLE_BTRPM, QRM_BUNDLE_BTDEB, QRM_BUNDLE_BTOSIND};

@@ -1,6 +1,10 @@
 #include "Table.h"
 
+#include <sys/ioctl.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace qrmtool {
@@ -25,12 +29,6 @@ std::size_t OffsetOfCodePoint(const std::string& text, std::size_t index)
         }
     }
     return text.size();
-}
-
-std::string Pad(const std::string& text, std::size_t width)
-{
-    std::size_t used = DisplayWidth(text);
-    return used >= width ? text : text + std::string(width - used, ' ');
 }
 
 std::string TrimRight(std::string text)
@@ -101,8 +99,9 @@ void Table::AddLine(std::string text, std::size_t indent, bool keepEnd)
     mEntries.push_back(std::move(entry));
 }
 
-std::string Table::Render(std::size_t maxWidth) const
+std::string Table::Render(const Style& style) const
 {
+    const std::size_t maxWidth = style.width;
     const std::size_t count = mColumns.size();
     if (count == 0) {
         return std::string();
@@ -154,7 +153,14 @@ std::string Table::Render(std::size_t maxWidth) const
         for (std::size_t c = 0; c < count; ++c) {
             std::size_t width = widths[c] + (header && c == 0 ? mIndent : 0);
             std::string cell = Fit(cells[c], width, mColumns[c].keepEnd);
-            line += c + 1 < count ? Pad(cell, width) + std::string(kGap, ' ') : cell;
+            std::string padding = c + 1 < count ? std::string(width - std::min(width, DisplayWidth(cell)) + kGap, ' ')
+                                                : std::string();
+            const char* paint = style.color && !header && mColumns[c].paint != nullptr ? mColumns[c].paint(cells[c])
+                                                                                         : nullptr;
+            if (paint != nullptr && !cell.empty()) {
+                cell = std::string("\x1B[") + paint + "m" + cell + "\x1B[0m";
+            }
+            line += cell + padding;
         }
         return TrimRight(line) + "\n";
     };
@@ -173,6 +179,50 @@ std::string Table::Render(std::size_t maxWidth) const
         }
     }
     return out;
+}
+
+Style StyleFor(int fd, const std::string& color)
+{
+    Style style;
+    const bool terminal = isatty(fd) != 0;
+    if (terminal) {
+        style.width = 80;
+        const char* columns = std::getenv("COLUMNS");
+        char* end = nullptr;
+        const long fromEnvironment = columns != nullptr ? std::strtol(columns, &end, 10) : 0;
+        winsize size{};
+        if (columns != nullptr && *columns != '\0' && *end == '\0' && fromEnvironment > 0) {
+            style.width = static_cast<std::size_t>(fromEnvironment);
+        } else if (ioctl(fd, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) {
+            style.width = size.ws_col;
+        }
+    }
+    if (color == "always") {
+        style.color = true;
+    } else if (color == "auto") {
+        const char* noColor = std::getenv("NO_COLOR");
+        const char* term = std::getenv("TERM");
+        style.color = terminal && (noColor == nullptr || *noColor == '\0') &&
+                      (term == nullptr || std::string(term) != "dumb");
+    }
+    return style;
+}
+
+const char* StatusPaint(const std::string& status)
+{
+    if (status == "newer") {
+        return "32";
+    }
+    if (status == "older") {
+        return "33";
+    }
+    if (status == "unknown") {
+        return "35";
+    }
+    if (status == "failed") {
+        return "31";
+    }
+    return nullptr;
 }
 
 }  // namespace qrmtool

@@ -4,6 +4,7 @@
 #define QRMKIT_TOOL_TABLE_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,32 @@ std::string Fit(const std::string& text, std::size_t width, bool keepEnd = false
 // space, so that a catalog text cannot break a table line.
 std::string OneLine(const std::string& text);
 
+// A line width that never cuts.
+constexpr std::size_t kUnlimited = SIZE_MAX;
+
+// How human output is laid out for where it goes.
+struct Style {
+    // Lines are cut to this many columns.
+    std::size_t width = kUnlimited;
+    // Whether statuses are coloured (with terminal escape sequences).
+    bool color = false;
+};
+
+// The style for output written to `fd`. On a terminal the width is $COLUMNS
+// when it is a positive number, else the terminal's own width, else 80;
+// anywhere else lines are never cut. `color` is "always", "never" or "auto":
+// colour on a terminal, unless $NO_COLOR is set and not empty or $TERM is
+// "dumb".
+Style StyleFor(int fd, const std::string& color);
+
+// The colour of a cell, as the parameters of a terminal escape sequence
+// ("32" for green), or nullptr for none.
+using Paint = const char* (*)(const std::string& cell);
+
+// Colours of statuses, shared by every table that shows them: newer green,
+// older yellow, unknown magenta, failed red; the rest uncoloured.
+const char* StatusPaint(const std::string& status);
+
 struct Column {
     std::string header;
     // Columns that may be made narrower than their widest cell when the
@@ -30,6 +57,8 @@ struct Column {
     std::size_t minWidth = 0;
     // Cut cells from the front instead of the back.
     bool keepEnd = false;
+    // The colour of each cell, when the style has colour.
+    Paint paint = nullptr;
 };
 
 class Table {
@@ -43,8 +72,8 @@ public:
     void AddLine(std::string text, std::size_t indent = 0, bool keepEnd = false);
 
     // The header and every line, each ending with "\n", none wider than
-    // `maxWidth` columns as long as the columns' minimum widths allow it.
-    std::string Render(std::size_t maxWidth) const;
+    // the style's width as long as the columns' minimum widths allow it.
+    std::string Render(const Style& style) const;
 
 private:
     struct Entry {
@@ -58,9 +87,6 @@ private:
     std::size_t mIndent;
     std::vector<Entry> mEntries;
 };
-
-// The width every qrmkit table is made to fit.
-constexpr std::size_t kMaxWidth = 100;
 
 }  // namespace qrmtool
 

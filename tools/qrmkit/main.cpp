@@ -1,17 +1,18 @@
 // qrmkit: the command-line face of QRMKit. Reads an update catalog and a
 // computer's inventory and tells which packages update which installed
 // applications, which bundle applies, and what the two documents hold.
-//
-// Exit status: 0 success, 2 the request could not be carried out (a file
-// missing or unreadable, ...), 3 some inventories of a fleet failed, 4 no
-// applicable bundle for the system, 64 bad usage, 100 with --check: a
-// package is newer than what is installed.
+// The exit statuses are kExitStatuses below.
 #include "Commands.h"
+#include "Explain.h"
 #include "FleetCommand.h"
 #include "Library.h"
+#include "Table.h"
 
 #include <CLI/CLI.hpp>
+#include <QRMKit.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <exception>
 #include <functional>
@@ -30,6 +31,11 @@ using qrmtool::kExitNewer;
 using qrmtool::kExitUsage;
 
 struct Options {
+    // Global options, accepted before or after the command.
+    std::string color = "auto";
+    bool quiet = false;
+    bool verbose = false;
+
     std::string catalog;
     std::string inventory;
     std::string bundleType = "auto";
@@ -39,6 +45,7 @@ struct Options {
     bool json = false;
     bool check = false;
     std::vector<std::string> only;
+    std::string topic;  // help COMMAND
 };
 
 // Whether the command line asks for JSON: then every outcome, a failure
@@ -53,10 +60,24 @@ bool AsksForJson(int argc, char** argv)
     return false;
 }
 
+// The exit statuses of every command, as 'qrmkit --help' and docs/tool.md
+// give them.
+const char kExitStatuses[] =
+    "Exit status:\n"
+    "  0    done\n"
+    "  2    bad input: a file is missing, unreadable or not the document expected\n"
+    "  3    fleet: at least one inventory failed; the others are reported\n"
+    "  4    no applicable bundle for the computer's system\n"
+    "  64   bad usage\n"
+    "  100  with --check: at least one package is newer than what is installed";
+
+const char kGlobalOptions[] =
+    "Global options, before or after the command: --color WHEN, -q/--quiet, -v/--verbose (see 'qrmkit --help').";
+
 CLI::App* AddCommand(CLI::App& app, const char* name, const char* description, const char* example)
 {
     CLI::App* command = app.add_subcommand(name, description);
-    command->footer(std::string("Example:\n  ") + example);
+    command->footer(std::string("Example:\n  ") + example + "\n\n" + kGlobalOptions);
     return command;
 }
 
@@ -106,12 +127,91 @@ void AddJson(CLI::App* command, Options& options)
     command->add_flag("--json", options.json, "Print a JSON document instead of a table");
 }
 
-std::string Emit(const qrmtool::Json& document, bool json, std::string (*render)(const qrmtool::Json&))
+using Render = std::string (*)(const qrmtool::Json&, const qrmtool::Style&);
+
+// The command's output: the document as JSON, or rendered for standard
+// output (its width and colour).
+std::string Emit(const qrmtool::Json& document, const Options& options, Render render)
 {
-    if (json) {
+    if (options.json) {
         return qrmtool::JsonText(document, 2) + "\n";
     }
-    return render(document);
+    return render(document, qrmtool::StyleFor(1, options.color));
+}
+
+// The number of single-character edits that turn one text into the other.
+std::size_t EditDistance(const std::string& a, const std::string& b)
+{
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j) {
+        row[j] = j;
+    }
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t above = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (a[i - 1] == b[j - 1] ? 0 : 1)});
+            diagonal = above;
+        }
+    }
+    return row[b.size()];
+}
+
+std::vector<const CLI::App*> Commands(const CLI::App& app)
+{
+    return app.get_subcommands([](const CLI::App*) { return true; });
+}
+
+// A usage error for a word that is no command: it names the word and the
+// nearest command, or lists the commands when none is near.
+qrmtool::ToolError UnknownCommand(const CLI::App& app, const std::string& word)
+{
+    std::string nearest;
+    std::size_t best = std::string::npos;
+    std::string names;
+    for (const CLI::App* command : Commands(app)) {
+        const std::string& name = command->get_name();
+        names += (names.empty() ? "" : ", ") + name;
+        const std::size_t distance = EditDistance(word, name);
+        if (distance < best) {
+            best = distance;
+            nearest = name;
+        }
+    }
+    std::string message = "unknown command '" + word + "'";
+    if (best <= std::max<std::size_t>(2, word.size() / 3)) {
+        message += "; did you mean '" + nearest + "'?";
+    } else {
+        message += "; the commands are " + names;
+    }
+    return qrmtool::ToolError("usage", message);
+}
+
+// Refuses a command line whose command is no command, before the option
+// parser would call it an unexpected argument. The command is the first
+// argument that is neither an option nor the value of a global option.
+void CheckCommandName(const CLI::App& app, int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        if (arg == "--") {
+            return;
+        }
+        if (arg == "--color") {
+            ++i;  // its value
+            continue;
+        }
+        if (!arg.empty() && arg[0] == '-') {
+            continue;
+        }
+        for (const CLI::App* command : Commands(app)) {
+            if (command->get_name() == arg) {
+                return;
+            }
+        }
+        throw UnknownCommand(app, arg);
+    }
 }
 
 int Run(int argc, char** argv)
@@ -120,17 +220,30 @@ int Run(int argc, char** argv)
     CLI::App app("qrmkit: which catalog packages update the applications of a computer's inventory, and what an "
                  "update catalog and an inventory hold.",
                  "qrmkit");
-    app.set_version_flag("-V,--version", std::string("qrmkit ") + QRMKIT_TOOL_VERSION, "Print the version and exit");
+    app.set_version_flag("-V,--version",
+                         std::string("qrmkit ") + QRMKIT_TOOL_VERSION + "\nlibqrmkit " + QRMKitVersion(),
+                         "Print the version of the tool and of the library it runs with, and exit");
     app.require_subcommand(1);
+    // Global options may come before or after the command: a command passes
+    // the options it does not know on to the tool.
+    app.fallthrough();
+    app.add_option("--color", options.color,
+                   "Colour the statuses: auto (on a terminal, unless $NO_COLOR is set), always or never")
+        ->capture_default_str()
+        ->check(CLI::IsMember({"auto", "always", "never"}))
+        ->type_name("WHEN");
+    app.add_flag("-q,--quiet", options.quiet,
+                 "Print nothing on standard output (the exit status tells the outcome); failures are still "
+                 "reported");
+    app.add_flag("-v,--verbose", options.verbose,
+                 "Say on standard error what is read and chosen, and how long reading takes");
     app.failure_message([](const CLI::App*, const CLI::Error& error) {
         return "qrmkit: " + std::string(error.what()) +
                "\nRun 'qrmkit --help' or 'qrmkit COMMAND --help' for more information.\n";
     });
     app.footer("Example:\n  qrmkit updates --catalog catalog.xml --inventory inventory.xml\n\n"
-               "Run 'qrmkit COMMAND --help' for the options of a command.\n"
-               "Exit status: 0 success, 2 failure (file missing or unreadable, ...), 3 fleet: some inventories "
-               "failed, 4 no applicable bundle for the system, 64 bad usage, 100 with --check: a package is newer "
-               "than what is installed.");
+               "Run 'qrmkit help COMMAND' or 'qrmkit COMMAND --help' for the options of a command.\n\n" +
+               std::string(kExitStatuses));
 
     std::function<std::string()> action;
     int status = 0;  // the exit status when the action succeeds
@@ -156,8 +269,32 @@ int Run(int argc, char** argv)
             if (options.check && qrmtool::HasNewer(document)) {
                 status = kExitNewer;
             }
-            qrmtool::KeepOnly(document, options.only);
-            return Emit(document, options.json, qrmtool::RenderUpdates);
+            qrmtool::KeepOnly(document, "updates", options.only);
+            return Emit(document, options, qrmtool::RenderUpdates);
+        };
+    });
+
+    CLI::App* explain = AddCommand(
+        app, "explain",
+        "Say for every installed application whether a package updates it and, when none does, why not",
+        "qrmkit explain --catalog catalog.xml --inventory inventory.xml --only no-supporting-package");
+    AddCatalog(explain, options.catalog);
+    AddInventory(explain, options);
+    AddBundleType(explain, options.bundleType, "the first type, in the order listed, with a bundle for this system");
+    explain
+        ->add_option("--only", options.only,
+                     "Show only the applications with this outcome, or the updates of this status (repeatable); "
+                     "the summary still counts all")
+        ->check(CLI::IsMember({"update", "device-excluded", "no-bundle", "no-supporting-package", "not-in-bundle",
+                               "type-mismatch", "sub-id-mismatch", "newer", "same", "older", "unknown"}))
+        ->type_name("OUTCOME");
+    AddJson(explain, options);
+    explain->callback([&] {
+        action = [&] {
+            qrmtool::Json document =
+                qrmtool::CollectExplanation(options.catalog, options.inventory, options.bundleType);
+            qrmtool::KeepOnly(document, "applications", options.only);
+            return Emit(document, options, qrmtool::RenderExplanation);
         };
     });
 
@@ -168,7 +305,7 @@ int Run(int argc, char** argv)
     AddJson(bundle, options);
     bundle->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectBundles(options.catalog, options.inventory), options.json,
+            return Emit(qrmtool::CollectBundles(options.catalog, options.inventory), options,
                         qrmtool::RenderBundles);
         };
     });
@@ -178,7 +315,7 @@ int Run(int argc, char** argv)
     AddCatalog(catalog, options.catalog);
     AddJson(catalog, options);
     catalog->callback([&] {
-        action = [&] { return Emit(qrmtool::CollectCatalog(options.catalog), options.json, qrmtool::RenderCatalog); };
+        action = [&] { return Emit(qrmtool::CollectCatalog(options.catalog), options, qrmtool::RenderCatalog); };
     });
 
     CLI::App* inventory = AddCommand(app, "inventory", "Show the system, operating systems and devices of an inventory",
@@ -187,7 +324,7 @@ int Run(int argc, char** argv)
     AddJson(inventory, options);
     inventory->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectInventory(options.inventory), options.json, qrmtool::RenderInventory);
+            return Emit(qrmtool::CollectInventory(options.inventory), options, qrmtool::RenderInventory);
         };
     });
 
@@ -197,7 +334,7 @@ int Run(int argc, char** argv)
     AddJson(categories, options);
     categories->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectCategories(options.catalog), options.json, qrmtool::RenderCategories);
+            return Emit(qrmtool::CollectCategories(options.catalog), options, qrmtool::RenderCategories);
         };
     });
 
@@ -211,7 +348,7 @@ int Run(int argc, char** argv)
     AddJson(collector, options);
     collector->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectCollector(options.catalog, options.osCode), options.json,
+            return Emit(qrmtool::CollectCollector(options.catalog, options.osCode), options,
                         qrmtool::RenderCollector);
         };
     });
@@ -222,7 +359,7 @@ int Run(int argc, char** argv)
     AddJson(compare, options);
     compare->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectComparison(options.first, options.second), options.json,
+            return Emit(qrmtool::CollectComparison(options.first, options.second), options,
                         qrmtool::RenderComparison);
         };
     });
@@ -271,16 +408,42 @@ int Run(int argc, char** argv)
     fleet->add_option("INVENTORY", fleetCommand.inventories,
                       "Inventory files, or directories: every *.xml file directly in one, sorted by name")
         ->required();
-    fleet->footer("Example:\n  qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/\n\n"
-                  "Exit status: 0 every inventory evaluated, 64 bad usage, 2 the catalog cannot be read (nothing is "
-                  "evaluated), 3 at least one inventory failed (the others are reported), 100 with --check: every "
-                  "inventory evaluated and at least one package is newer than what is installed.");
+    fleet->footer("Example:\n  qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/\n\n" +
+                  std::string(kGlobalOptions) +
+                  "\n\nExit status:\n"
+                  "  0    every inventory evaluated\n"
+                  "  2    the catalog cannot be read: nothing is evaluated\n"
+                  "  3    at least one inventory failed; the others are reported\n"
+                  "  64   bad usage\n"
+                  "  100  with --check: every inventory evaluated and at least one package is newer than what is "
+                  "installed");
     fleet->callback([&] {
         qrmtool::ParseShard(shard.empty() ? "1/1" : shard, fleetCommand.shardIndex, fleetCommand.shardCount);
+        fleetCommand.color = options.color;
+        fleetCommand.quiet = options.quiet;
         direct = [&] { return qrmtool::RunFleet(fleetCommand); };
     });
 
+    CLI::App* help = AddCommand(app, "help", "Show the help of the tool or of a command", "qrmkit help updates");
+    help->add_option("COMMAND", options.topic, "The command to show the help of");
+    help->callback([&] {
+        action = [&]() -> std::string {
+            if (options.topic.empty()) {
+                // What 'qrmkit --help' prints.
+                return app.get_formatter()->make_help(&app, "qrmkit", CLI::AppFormatMode::Normal);
+            }
+            for (const CLI::App* command : Commands(app)) {
+                if (command->get_name() == options.topic) {
+                    // What 'qrmkit COMMAND --help' prints.
+                    return command->help("qrmkit");
+                }
+            }
+            throw UnknownCommand(app, options.topic);
+        };
+    });
+
     try {
+        CheckCommandName(app, argc, argv);
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0 && AsksForJson(argc, argv)) {
@@ -288,6 +451,7 @@ int Run(int argc, char** argv)
         }
         return app.exit(error) == 0 ? 0 : kExitUsage;
     }
+    qrmtool::SetVerbose(options.verbose);
     if (direct) {
         return direct();
     }
@@ -296,6 +460,9 @@ int Run(int argc, char** argv)
     }
     // Everything is gathered before anything is printed.
     std::string output = action();
+    if (options.quiet) {
+        return status;
+    }
     std::cout << output << std::flush;
     if (!std::cout) {
         std::cerr << "qrmkit: cannot write to standard output\n";

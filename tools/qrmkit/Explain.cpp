@@ -1,0 +1,420 @@
+#include "Explain.h"
+
+#include "Library.h"
+#include "Table.h"
+
+#include <QRMKit.h>
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace qrmtool {
+
+namespace {
+
+// The component id whose devices never receive updates.
+constexpr unsigned long long kExcludedComponentID = 2331;
+
+// How many packages a "not-in-bundle" outcome names.
+constexpr std::size_t kNamedPackages = 3;
+
+const char* const kOutcomes[] = {"update",         "device-excluded", "no-bundle",      "no-supporting-package",
+                                 "not-in-bundle", "type-mismatch",   "sub-id-mismatch"};
+
+// The file name a package path is listed under in a bundle: the text after
+// its last "/" (all of it when it has none), compared unit for unit.
+std::u16string_view FileName(std::u16string_view path)
+{
+    const std::size_t slash = path.rfind(u'/');
+    return slash == std::u16string_view::npos ? path : path.substr(slash + 1);
+}
+
+std::string Pci(std::uint32_t first, std::uint32_t second) { return Hex(first) + ":" + Hex(second); }
+
+// An inventory device as the matching rule reads it.
+struct DeviceIds {
+    unsigned long long componentID = 0;
+    std::uint32_t vendor = 0;
+    std::uint32_t device = 0;
+    std::uint32_t subVendor = 0;
+    std::uint32_t subDevice = 0;
+
+    bool ByComponentID() const { return componentID != 0; }
+};
+
+DeviceIds IdsOf(const QRMIDevice& device)
+{
+    DeviceIds ids;
+    ids.componentID = device.GetComponentID();
+    ids.vendor = static_cast<std::uint32_t>(device.GetVendorID());
+    ids.device = static_cast<std::uint32_t>(device.GetDeviceID());
+    ids.subVendor = static_cast<std::uint32_t>(device.GetSubVendorID());
+    ids.subDevice = static_cast<std::uint32_t>(device.GetSubDeviceID());
+    return ids;
+}
+
+// A catalog package that supports an inventory device: by component id, or
+// by a PCI entry with the device's vendor and device ids.
+struct Supporter {
+    const QRMSoftwareComponent* component = nullptr;
+    QRMComponentTypeValueEnum type = QRM_COMPONENT_SBDL;
+    bool inBundle = false;
+    // How it matches when it does: the component id, or the first PCI
+    // entry whose sub-ids are the device's or 0/0 (null when none is).
+    Json match;
+    // The sub-id pairs of its entries with the device's vendor and device ids.
+    std::vector<std::string> subIds;
+};
+
+class Explainer {
+public:
+    Explainer(const QRMSoftwareBundle* bundle)
+    {
+        QRMKitAPI::Instance()->GetSoftwareComponents(mComponents);
+        if (bundle == nullptr) {
+            return;
+        }
+        std::vector<QRMBundleContent> contents;
+        bundle->GetContents(contents);
+        for (const QRMBundleContent& content : contents) {
+            mPackagePaths.push_back(content.GetPath().GetUTF16String());
+        }
+        mListed.insert(mPackagePaths.begin(), mPackagePaths.end());
+        for (const QRMSoftwareComponent* component : mComponents) {
+            std::u16string name(FileName(component->GetPathView()));
+            if (mListed.count(name) != 0) {
+                mByFileName[name].push_back(component);
+            }
+        }
+    }
+
+    // Every package supporting the device, in catalog order.
+    std::vector<Supporter> SupportersOf(const DeviceIds& ids) const
+    {
+        std::vector<Supporter> supporters;
+        for (const QRMSoftwareComponent* component : mComponents) {
+            Supporter supporter;
+            bool supports = false;
+            std::vector<QRMDevice*> devices;
+            component->GetSupportedDevices(devices);
+            for (const QRMDevice* device : devices) {
+                if (ids.ByComponentID()) {
+                    if (device->GetComponentID() == ids.componentID) {
+                        supports = true;
+                        if (supporter.match.is_null()) {
+                            supporter.match = {{"by", "component-id"}, {"component_id", ids.componentID}};
+                        }
+                    }
+                    continue;
+                }
+                std::vector<QRMPCIInfo*> entries;
+                device->GetPCIInfo(entries);
+                for (const QRMPCIInfo* entry : entries) {
+                    if (entry->GetVendorID() != ids.vendor || entry->GetDeviceID() != ids.device) {
+                        continue;
+                    }
+                    supports = true;
+                    const std::uint32_t subVendor = entry->GetSubVendorID();
+                    const std::uint32_t subDevice = entry->GetSubDeviceID();
+                    supporter.subIds.push_back(Pci(subVendor, subDevice));
+                    const bool exact = subVendor == ids.subVendor && subDevice == ids.subDevice;
+                    if (supporter.match.is_null() && (exact || (subVendor == 0 && subDevice == 0))) {
+                        supporter.match = {{"by", "pci"},
+                                           {"vendor_id", Hex(ids.vendor)},
+                                           {"device_id", Hex(ids.device)},
+                                           {"sub_vendor_id", Hex(subVendor)},
+                                           {"sub_device_id", Hex(subDevice)},
+                                           {"sub_ids", exact ? "exact" : "any"}};
+                    }
+                }
+            }
+            if (supports) {
+                supporter.component = component;
+                supporter.type = component->GetComponentType().GetValue();
+                supporter.inBundle = mListed.count(std::u16string(FileName(component->GetPathView()))) != 0;
+                supporters.push_back(std::move(supporter));
+            }
+        }
+        return supporters;
+    }
+
+    // The package GetApplicableUpdates chooses among the matching ones:
+    // walking the bundle's packages in order and, for each, the catalog's
+    // components with that file name in catalog order, a later match
+    // replaces the best so far only when its version compares exactly
+    // newer.
+    const Supporter* Choose(const std::vector<const Supporter*>& matching) const
+    {
+        std::map<const QRMSoftwareComponent*, const Supporter*> byComponent;
+        for (const Supporter* supporter : matching) {
+            byComponent[supporter->component] = supporter;
+        }
+        const Supporter* best = nullptr;
+        QRMKitAPI* api = QRMKitAPI::Instance();
+        for (const std::u16string& path : mPackagePaths) {
+            auto named = mByFileName.find(path);
+            if (named == mByFileName.end()) {
+                continue;
+            }
+            for (const QRMSoftwareComponent* component : named->second) {
+                auto found = byComponent.find(component);
+                if (found == byComponent.end()) {
+                    continue;
+                }
+                if (best == nullptr ||
+                    api->CompareVersion(component->GetVendorVersion(), best->component->GetVendorVersion()) == 1) {
+                    best = found->second;
+                }
+            }
+        }
+        return best;
+    }
+
+private:
+    std::vector<QRMSoftwareComponent*> mComponents;
+    std::vector<std::u16string> mPackagePaths;
+    std::set<std::u16string> mListed;
+    std::unordered_map<std::u16string, std::vector<const QRMSoftwareComponent*>> mByFileName;
+};
+
+std::string DeviceIdsText(const DeviceIds& ids)
+{
+    if (ids.ByComponentID()) {
+        return "component id " + std::to_string(ids.componentID);
+    }
+    return "PCI " + Pci(ids.vendor, ids.device) + ", sub-ids " + Pci(ids.subVendor, ids.subDevice);
+}
+
+// The outcome of one application: "outcome", a one-line "reason" and the
+// details the outcome names.
+Json Explain(const QRMIDevice& device, const QRMIApplication& application, const DeviceIds& ids,
+             const std::vector<Supporter>& supporters, const Explainer& explainer, const BundleChoice& choice,
+             const std::string& requestedType, const Json& typesWithBundle, const std::string& base)
+{
+    Json row;
+    row["device"] = Utf8(device.GetDisplay());
+    row["application"] = Utf8(application.GetDisplay());
+    row["component_type"] = ComponentTypeWord(application.GetComponentType());
+    row["installed_version"] = Utf8(application.GetVersion());
+    row["device_ids"] = ids.ByComponentID()
+                            ? Json{{"component_id", ids.componentID}}
+                            : Json{{"vendor_id", Hex(ids.vendor)},
+                                   {"device_id", Hex(ids.device)},
+                                   {"sub_vendor_id", Hex(ids.subVendor)},
+                                   {"sub_device_id", Hex(ids.subDevice)}};
+    auto outcome = [&row](const char* word, const std::string& reason) {
+        row["outcome"] = word;
+        row["reason"] = reason;
+        return row;
+    };
+
+    if (ids.componentID == kExcludedComponentID) {
+        return outcome("device-excluded", "component id " + std::to_string(kExcludedComponentID) +
+                                              " never receives updates");
+    }
+    if (choice.bundle == nullptr) {
+        row["bundle_types"] = typesWithBundle;
+        return outcome("no-bundle", typesWithBundle.empty()
+                                        ? std::string("no bundle of any type lists this system")
+                                        : "no " + requestedType + " bundle lists this system; " +
+                                              Join(typesWithBundle) +
+                                              (typesWithBundle.size() == 1 ? " has one" : " have one"));
+    }
+    if (supporters.empty()) {
+        return outcome("no-supporting-package", "no catalog package supports this device (" + DeviceIdsText(ids) + ")");
+    }
+
+    std::vector<const Supporter*> inBundle;
+    Json outside = Json::array();
+    for (const Supporter& supporter : supporters) {
+        if (supporter.inBundle) {
+            inBundle.push_back(&supporter);
+        } else if (outside.size() < kNamedPackages) {
+            outside.push_back(std::string(Utf8(supporter.component->GetPath())));
+        }
+    }
+    if (inBundle.empty()) {
+        row["packages"] = outside;
+        row["supporting_packages"] = supporters.size();
+        return outcome("not-in-bundle", Plural(supporters.size(), "package supports", "packages support") +
+                                            " this device, none in the bundle: " + Join(outside) +
+                                            (supporters.size() > outside.size() ? ", ..." : ""));
+    }
+
+    std::vector<const Supporter*> typed;
+    std::set<std::string> typesFound;
+    for (const Supporter* supporter : inBundle) {
+        if (supporter->type == application.GetComponentType()) {
+            typed.push_back(supporter);
+        }
+        typesFound.insert(ComponentTypeWord(supporter->type));
+    }
+    if (typed.empty()) {
+        row["types"] = typesFound;
+        return outcome("type-mismatch", "the bundle's packages for this device are of type " + Join(row["types"]) +
+                                            ", not " + Text(row["component_type"]));
+    }
+
+    std::vector<const Supporter*> matching;
+    std::set<std::string> subIdsFound;
+    for (const Supporter* supporter : typed) {
+        if (!supporter->match.is_null()) {
+            matching.push_back(supporter);
+        }
+        subIdsFound.insert(supporter->subIds.begin(), supporter->subIds.end());
+    }
+    if (matching.empty()) {
+        row["sub_ids"] = subIdsFound;
+        return outcome("sub-id-mismatch", "no entry has this device's sub-ids " +
+                                              Pci(ids.subVendor, ids.subDevice) + " or 0000:0000; the entries have " +
+                                              Join(row["sub_ids"]));
+    }
+
+    const Supporter* chosen = explainer.Choose(matching);
+    Json update = UpdateEntry(device, application, *chosen->component, base);
+    row["status"] = update["status"];
+    update.erase("device");
+    update.erase("application");
+    update.erase("installed_version");
+    update["matched_by"] = chosen->match;
+    row["update"] = update;
+    const Json& match = chosen->match;
+    const std::string how =
+        Text(match["by"]) == "component-id"
+            ? "component id " + Text(match["component_id"])
+            : "PCI " + Text(match["vendor_id"]) + ":" + Text(match["device_id"]) +
+                  (Text(match["sub_ids"]) == "exact"
+                       ? ", sub-ids " + Text(match["sub_vendor_id"]) + ":" + Text(match["sub_device_id"])
+                       : ", any sub-ids (0000:0000 entry)");
+    return outcome("update", Text(update["available_version"]) + " (" + Text(update["status"]) + "), " +
+                                 Text(update["path"]) + ", by " + how);
+}
+
+const char* OutcomePaint(const std::string& outcome) { return outcome == "update" ? "32" : nullptr; }
+
+}  // namespace
+
+Json CollectExplanation(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
+{
+    RequestedBundleType(bundleType);
+    LoadCatalog(catalog);
+    LoadInventory(inventory);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    const BundleChoice choice = ChooseBundle(bundleType);
+    Json typesWithBundle = Json::array();
+    for (QRMBundleTypeEnum type : kBundleTypes) {
+        if (api->GetApplicableBundle(type) != nullptr) {
+            typesWithBundle.push_back(BundleTypeWord(type));
+        }
+    }
+
+    const Explainer explainer(choice.bundle);
+    const std::string base = Utf8(api->GetBaseLocation());
+    std::vector<QRMIDevice*> devices;
+    api->GetInventory(devices);
+    Json rows = Json::array();
+    std::map<std::string, std::size_t> counts;
+    for (const char* outcome : kOutcomes) {
+        counts[outcome] = 0;
+    }
+    for (const QRMIDevice* device : devices) {
+        std::vector<QRMIApplication*> applications;
+        device->GetApplications(applications);
+        if (applications.empty()) {
+            continue;
+        }
+        const DeviceIds ids = IdsOf(*device);
+        const std::vector<Supporter> supporters =
+            ids.componentID == kExcludedComponentID || choice.bundle == nullptr ? std::vector<Supporter>()
+                                                                                 : explainer.SupportersOf(ids);
+        for (const QRMIApplication* application : applications) {
+            Json row = Explain(*device, *application, ids, supporters, explainer, choice, bundleType, typesWithBundle,
+                               base);
+            ++counts[row["outcome"].get<std::string>()];
+            rows.push_back(std::move(row));
+        }
+    }
+
+    Json document = NewDocument();
+    document["catalog"] = catalog;
+    document["inventory"] = inventory;
+    document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
+    document["system_id"] = SystemID(api->GetSystemIDFromInventory());
+    if (choice.bundle == nullptr) {
+        document["bundle"] = nullptr;
+        document["requested_bundle_type"] = bundleType;
+    } else {
+        document["bundle"] = {{"id", Utf8(choice.bundle->GetBundleID())},
+                              {"type", BundleTypeWord(choice.type)},
+                              {"selection", choice.automatic ? "auto" : "requested"}};
+    }
+    document["applications"] = rows;
+    Json summary = {{"applications", rows.size()}};
+    for (const char* outcome : kOutcomes) {
+        summary[outcome] = counts[outcome];
+    }
+    document["summary"] = std::move(summary);
+    return document;
+}
+
+std::string RenderExplanation(const Json& document, const Style& style)
+{
+    std::string out = Fit(OneLine("Why each application of " + SystemPhrase(document["system_id"]) +
+                                  " gets an update or not, from catalog " + Text(document["catalog_release"]) +
+                                  " (" + Text(document["catalog"]) + ")"),
+                          style.width) +
+                      "\n";
+    const Json& bundle = document["bundle"];
+    out += Fit(OneLine(bundle.is_null()
+                           ? "No bundle of type " + Text(document["requested_bundle_type"]) + " applies to this system"
+                           : "Bundle " + Text(bundle["id"]) + ", type " + Text(bundle["type"]) +
+                                 (Text(bundle["selection"]) == "auto" ? " (auto)" : " (as requested)")),
+               style.width) +
+           "\n\n";
+
+    Table table({{"DEVICE / APPLICATION", true, 12},
+                 {"INSTALLED", true, 9},
+                 {"OUTCOME", false, 0, false, OutcomePaint},
+                 {"REASON", true, 20}},
+                2);
+    std::string device;
+    bool first = true;
+    for (const Json& row : document["applications"]) {
+        if (first || Text(row["device"]) != device) {
+            device = Text(row["device"]);
+            table.AddLine(device);
+            first = false;
+        }
+        table.AddRow({Text(row["application"]), Text(row["installed_version"]), Text(row["outcome"]),
+                      OneLine(Text(row["reason"]))});
+    }
+    out += table.Render(style);
+
+    const Json& summary = document["summary"];
+    std::string counts;
+    for (const char* outcome : kOutcomes) {
+        if (summary[outcome].get<std::size_t>() > 0) {
+            counts += (counts.empty() ? "" : ", ") + Text(summary[outcome]) + " " + outcome;
+        }
+    }
+    out += "\n";
+    if (document.contains("only")) {
+        out += Fit("Showing only: " + Join(document["only"]) + " (" +
+                       std::to_string(document["applications"].size()) + " of " + Text(summary["applications"]) +
+                       " applications).",
+                   style.width) +
+               "\n";
+    }
+    out += Fit(Plural(summary["applications"].get<std::size_t>(), "installed application", "installed applications") +
+                   (counts.empty() ? "." : ": " + counts + "."),
+               style.width) +
+           "\n";
+    return out;
+}
+
+}  // namespace qrmtool
