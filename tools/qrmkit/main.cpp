@@ -6,6 +6,7 @@
 #include "Explain.h"
 #include "FleetCommand.h"
 #include "Library.h"
+#include "Manual.h"
 #include "Table.h"
 
 #include <CLI/CLI.hpp>
@@ -407,7 +408,8 @@ int Run(int argc, char** argv)
         ->type_name("SECONDS");
     fleet->add_option("INVENTORY", fleetCommand.inventories,
                       "Inventory files, or directories: every *.xml file directly in one, sorted by name")
-        ->required();
+        ->required()
+        ->type_name("FILE");
     fleet->footer("Example:\n  qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/\n\n" +
                   std::string(kGlobalOptions) +
                   "\n\nExit status:\n"
@@ -425,7 +427,7 @@ int Run(int argc, char** argv)
     });
 
     CLI::App* help = AddCommand(app, "help", "Show the help of the tool or of a command", "qrmkit help updates");
-    help->add_option("COMMAND", options.topic, "The command to show the help of");
+    help->add_option("COMMAND", options.topic, "The command to show the help of")->type_name("COMMAND");
     help->callback([&] {
         action = [&]() -> std::string {
             if (options.topic.empty()) {
@@ -441,6 +443,17 @@ int Run(int argc, char** argv)
             throw UnknownCommand(app, options.topic);
         };
     });
+
+    // For the build: the manual page and the bash completion, written from
+    // this very command line.
+    app.add_flag_callback("--generate-man-page", [&app] {
+           std::cout << qrmtool::ManPage(app, QRMKIT_TOOL_VERSION, kExitStatuses);
+           throw CLI::Success();
+       })->group("");
+    app.add_flag_callback("--generate-bash-completion", [&app] {
+           std::cout << qrmtool::BashCompletion(app);
+           throw CLI::Success();
+       })->group("");
 
     try {
         CheckCommandName(app, argc, argv);
