@@ -141,6 +141,15 @@ TEST_F(ManualTest, ManPageHasEveryCommandAndEveryOptionTheHelpShows)
     EXPECT_TRUE(Contains(page, "  100  with \\-\\-check"));
 }
 
+TEST_F(ManualTest, GuideGivesTheExitStatusTableOfTheHelp)
+{
+    const std::string help = Run({"--help"}).out;
+    const std::size_t table = help.find("Exit status:\n");
+    ASSERT_NE(table, std::string::npos) << help;
+    const std::string block = "```\n" + help.substr(table) + "```\n";
+    EXPECT_TRUE(Contains(ReadFile(QRMKIT_TOOL_GUIDE), block)) << block;
+}
+
 TEST_F(ManualTest, ManPageIsCleanRoff)
 {
     EXPECT_EQ(Shell("groff -man -Tutf8 -ww -z " + Quote(kManPage) + " 2>&1"), "");

@@ -207,6 +207,9 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
                                    {"device_id", Hex(ids.device)},
                                    {"sub_vendor_id", Hex(ids.subVendor)},
                                    {"sub_device_id", Hex(ids.subDevice)}};
+    // The outcome and its reason come first after the ids; they are set last.
+    row["outcome"] = nullptr;
+    row["reason"] = nullptr;
     auto outcome = [&row](const char* word, const std::string& reason) {
         row["outcome"] = word;
         row["reason"] = reason;
