@@ -118,6 +118,17 @@ Json NewDocument()
     return document;
 }
 
+Json ComputerDocument(const std::string& catalog, const std::string& inventory)
+{
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    Json document = NewDocument();
+    document["catalog"] = catalog;
+    document["inventory"] = inventory;
+    document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
+    document["system_id"] = SystemID(api->GetSystemIDFromInventory());
+    return document;
+}
+
 std::string JsonText(const Json& document, int indent)
 {
     return document.dump(indent, ' ', false, Json::error_handler_t::replace);
@@ -170,7 +181,6 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
     RequestedBundleType(bundleType);
     LoadInventory(inventory);
     QRMKitAPI* api = QRMKitAPI::Instance();
-    const Json systemID = SystemID(api->GetSystemIDFromInventory());
 
     const BundleChoice choice = ChooseBundle(bundleType);
     if (choice.bundle == nullptr) {
@@ -211,12 +221,8 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
 
     std::vector<QRMBundleContent> contents;
     bundle->GetContents(contents);
-    Json document = NewDocument();
-    document["catalog"] = catalog;
-    document["inventory"] = inventory;
-    document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
+    Json document = ComputerDocument(catalog, inventory);
     document["base_location"] = base;
-    document["system_id"] = systemID;
     document["bundle"] = {{"id", Utf8(bundle->GetBundleID())},
                           {"type", BundleTypeWord(type)},
                           {"selection", choice.automatic ? "auto" : "requested"},
@@ -321,11 +327,7 @@ Json CollectBundles(const std::string& catalog, const std::string& inventory)
         entry["greatest_bundle_number"] = api->GetGreatestBundleNumber(type);
         types.push_back(std::move(entry));
     }
-    Json document = NewDocument();
-    document["catalog"] = catalog;
-    document["inventory"] = inventory;
-    document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
-    document["system_id"] = SystemID(api->GetSystemIDFromInventory());
+    Json document = ComputerDocument(catalog, inventory);
     document["bundle_types"] = std::move(types);
     return document;
 }

@@ -25,6 +25,10 @@ constexpr int kSchemaVersion = 1;
 // first): every document the tool prints starts as one.
 Json NewDocument();
 
+// A new document about one computer, for the catalog and inventory the
+// library has read: their paths, the catalog's release and the system id.
+Json ComputerDocument(const std::string& catalog, const std::string& inventory);
+
 // The document as JSON text: indented by `indent` spaces, or on one line
 // when `indent` is negative. Text that is not valid UTF-8 is replaced, never
 // thrown on.

@@ -343,11 +343,7 @@ Json CollectExplanation(const std::string& catalog, const std::string& inventory
         }
     }
 
-    Json document = NewDocument();
-    document["catalog"] = catalog;
-    document["inventory"] = inventory;
-    document["catalog_release"] = Utf8(api->GetCatalogReleaseID());
-    document["system_id"] = SystemID(api->GetSystemIDFromInventory());
+    Json document = ComputerDocument(catalog, inventory);
     if (choice.bundle == nullptr) {
         document["bundle"] = nullptr;
         document["requested_bundle_type"] = bundleType;
