@@ -476,9 +476,9 @@ TEST_F(FleetTest, AnUnreadableCatalogIsOneJsonErrorAndStatus2)
     EXPECT_EQ(result.err, "");
     std::vector<Json> lines = ParseLines(result.out);
     ASSERT_EQ(lines.size(), 1U);
-    EXPECT_EQ(lines[0]["error"]["code"], "not-a-catalog");
+    EXPECT_EQ(lines[0]["error"]["code"], "not-xml");
     EXPECT_EQ(lines[0]["error"]["file"], broken);
-    EXPECT_TRUE(Contains(lines[0]["error"]["message"], broken + ": not a readable catalog")) << result.out;
+    EXPECT_TRUE(Contains(lines[0]["error"]["message"], broken + ": not well-formed XML: line ")) << result.out;
 }
 
 TEST_F(FleetTest, AnUnreadableCatalogInATableIsOneErrorLineAndNoReportFile)

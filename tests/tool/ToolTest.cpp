@@ -620,10 +620,19 @@ TEST_F(ToolTest, JsonFailureSaysWhatIsWrongWithWhichFile)
 
     const std::string garbage = Path("garbage.xml");
     WriteFile(garbage, "not xml at all");
-    EXPECT_EQ(ExpectJsonError(Run({"inventory", "--inventory", garbage, "--json"}), 2, "not-an-inventory")["error"]["file"],
+    EXPECT_EQ(ExpectJsonError(Run({"inventory", "--inventory", garbage, "--json"}), 2, "not-xml")["error"]["file"],
               garbage);
-    EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", garbage, "--json"}), 2, "not-a-catalog")["error"]["file"],
+    EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", garbage, "--json"}), 2, "not-xml")["error"]["file"],
               garbage);
+    const std::string noLanguage = Variant(kInventory, "no-lang.xml", "lang=\"en\" schemaVersion", "schemaVersion");
+    EXPECT_EQ(
+        ExpectJsonError(Run({"inventory", "--inventory", noLanguage, "--json"}), 2, "not-an-inventory")["error"]["file"],
+        noLanguage);
+    const std::string noContents = Variant(kCatalog, "no-contents.xml", "<Contents>", "<Other>");
+    const std::string catalog = Replace(ReadFile(noContents), "</Contents>", "</Other>");
+    WriteFile(noContents, catalog);
+    EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", noContents, "--json"}), 2, "not-a-catalog")["error"]["file"],
+              noContents);
     EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", mDir, "--json"}), 2, "not-a-file")["error"]["file"], mDir);
     EXPECT_TRUE(
         ExpectJsonError(Run({"compare", "1.\xC3\xA9", "1.0", "--json"}), 2, "not-comparable")["error"]["file"].is_null());

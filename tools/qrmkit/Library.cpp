@@ -1,5 +1,8 @@
 #include "Library.h"
 
+#include "Input.h"
+
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <vector>
@@ -63,15 +66,50 @@ int ExitStatusFor(const ToolError& error)
     return error.Code() == "no-bundle" ? kExitNoBundle : kExitFailure;
 }
 
-void LoadCatalog(const std::string& path)
+namespace {
+
+// Reads a catalog (or an inventory) named on the command line into the
+// library, or throws a ToolError that says why it cannot.
+void Load(const std::string& path, bool catalog)
 {
-    Check(path, QRMKitAPI::Instance()->Parse(VELFile(path)), true);
+    const auto start = std::chrono::steady_clock::now();
+    const InputFile input(path);
+    const std::string name = InputName(path);
+    const std::string root = RootElementName(input.Head());
+    if (catalog && root == "SVMInventory") {
+        throw ToolError("not-a-catalog",
+                        name + ": this looks like an inventory, not a catalog (its root element is SVMInventory); "
+                               "did you swap --catalog and --inventory?",
+                        name);
+    }
+    if (!catalog && root == "Manifest") {
+        throw ToolError("not-an-inventory",
+                        name + ": this looks like a catalog, not an inventory (its root element is Manifest); "
+                               "did you swap --catalog and --inventory?",
+                        name);
+    }
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    const VELFile file(input.LibraryPath());
+    const QRMKitReturnCode code = catalog ? api->Parse(file) : api->ParseInventory(file);
+    if (code == QRM_KIT_FAILURE) {
+        const std::string problem = XmlProblem(input.LibraryPath());
+        if (!problem.empty()) {
+            throw ToolError("not-xml", name + ": not well-formed XML: " + problem, name);
+        }
+    }
+    Check(name, code, catalog);
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+    char seconds[32];
+    std::snprintf(seconds, sizeof seconds, "%.3f s", took.count());
+    Note(std::string("read ") + (catalog ? "catalog " : "inventory ") + name +
+         (input.How().empty() ? "" : " (" + input.How() + ")") + " in " + seconds);
 }
 
-void LoadInventory(const std::string& path)
-{
-    Check(path, QRMKitAPI::Instance()->ParseInventory(VELFile(path)), false);
-}
+}  // namespace
+
+void LoadCatalog(const std::string& path) { Load(path, true); }
+
+void LoadInventory(const std::string& path) { Load(path, false); }
 
 std::string Utf8(const VELString& text) { return text.GetUTF8String(); }
 

@@ -5,6 +5,7 @@
 #include "Commands.h"
 #include "Explain.h"
 #include "FleetCommand.h"
+#include "Input.h"
 #include "Library.h"
 #include "Manual.h"
 #include "Table.h"
@@ -465,6 +466,9 @@ int Run(int argc, char** argv)
         return app.exit(error) == 0 ? 0 : kExitUsage;
     }
     qrmtool::SetVerbose(options.verbose);
+    std::vector<std::string> inputs = {options.catalog, options.inventory, fleetCommand.catalog};
+    inputs.insert(inputs.end(), fleetCommand.inventories.begin(), fleetCommand.inventories.end());
+    qrmtool::CheckStandardInputOnce(inputs);
     if (direct) {
         return direct();
     }
