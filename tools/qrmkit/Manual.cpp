@@ -158,7 +158,9 @@ std::string ManPage(const CLI::App& app, const std::string& version, const std::
            ".TP\n.B QRMKIT_INVENTORY\nThe inventory when \\fB\\-\\-inventory\\fR is not given (the option wins).\n"
            ".TP\n.B COLUMNS\nThe width of a terminal that tables are cut to; output to a file or a pipe is "
            "never cut.\n"
-           ".TP\n.B NO_COLOR\nWhen set and not empty, no colour unless \\fB\\-\\-color always\\fR.\n";
+           ".TP\n.B NO_COLOR\nWhen set and not empty, no colour unless \\fB\\-\\-color always\\fR.\n"
+           ".TP\n.B QRMKIT_UNPACK_LIMIT\nThe most bytes a document read from a pipe or unpacked may take "
+           "(default: 1 GiB).\n";
     out << ".SH EXIT STATUS\n.nf\n" << Roff(exitStatuses.substr(exitStatuses.find('\n') + 1)) << "\n.fi\n";
     out << ".SH SEE ALSO\nThe guide to the tool, docs/tool.md, in the QRMKit sources.\n";
     return out.str();
