@@ -10,9 +10,11 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <cstdint>
+#include <map>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -131,6 +133,29 @@ std::string Cabinet(const std::vector<std::pair<std::string, std::string>>& memb
 
 class InputTest : public ToolTest {
 protected:
+    void TearDown() override
+    {
+        for (const auto& saved : mSaved) {
+            if (saved.second.first) {
+                setenv(saved.first.c_str(), saved.second.second.c_str(), 1);
+            } else {
+                unsetenv(saved.first.c_str());
+            }
+        }
+        ToolTest::TearDown();
+    }
+
+    // Sets an environment variable for the tools this test runs; the test's
+    // end restores it.
+    void SetEnv(const std::string& name, const std::string& value)
+    {
+        if (mSaved.count(name) == 0) {
+            const char* old = std::getenv(name.c_str());
+            mSaved[name] = {old != nullptr, old != nullptr ? old : ""};
+        }
+        setenv(name.c_str(), value.c_str(), 1);
+    }
+
     // What 'updates --json' gives, without the two paths.
     static Json Answer(const Result& result)
     {
@@ -150,7 +175,7 @@ protected:
     // in files as for Run.
     Result Bash(const std::string& script)
     {
-        setenv("TOOL", kTool.c_str(), 1);
+        SetEnv("TOOL", kTool);
         const std::string outPath = Path("stdout.txt");
         const std::string errPath = Path("stderr.txt");
         const std::string line = "bash -c '" + script + "' >" + outPath + " 2>" + errPath;
@@ -161,6 +186,8 @@ protected:
         result.err = ReadFile(errPath);
         return result;
     }
+
+    std::map<std::string, std::pair<bool, std::string>> mSaved;
 
     static void ExpectJsonError(const Result& result, const std::string& code, const std::string& file,
                                 const std::string& part, int status = 2)
@@ -239,7 +266,7 @@ TEST_F(InputTest, DecompressionBombStopsAtTheLimit)
     const std::string bomb = Path("bomb.gz");
     WriteFile(bomb, Compress("gzip", "<a>" + std::string(20 << 20, ' ') + "</a>"));
     EXPECT_LT(ReadFile(bomb).size(), 100000U);
-    setenv("QRMKIT_UNPACK_LIMIT", "1000000", 1);
+    SetEnv("QRMKIT_UNPACK_LIMIT", "1000000");
     ExpectFailure(Run({"catalog", "--catalog", bomb}),
                   {bomb + ": unpacks to more than 1000000 bytes (the limit; set QRMKIT_UNPACK_LIMIT"});
     ExpectJsonError(Run({"catalog", "--catalog", bomb, "--json"}), "too-large", bomb, "unpacks to more than");
@@ -248,11 +275,40 @@ TEST_F(InputTest, DecompressionBombStopsAtTheLimit)
     ExpectFailure(piped, {"standard input: the input holds more than 1000000 bytes"});
 }
 
+TEST_F(InputTest, DecompressionBombTakesNoMoreMemoryThanTheLimitAllows)
+{
+    const std::string bomb = Path("bomb.gz");
+    WriteFile(bomb, Compress("gzip", "<a>" + std::string(std::size_t(200) << 20, ' ') + "</a>"));
+    EXPECT_LT(ReadFile(bomb).size(), 1000000U);
+    SetEnv("QRMKIT_UNPACK_LIMIT", "1000000");
+    pid_t child = StartTool({"catalog", "--catalog", bomb}, Path("out.txt"), Path("err.txt"));
+    int status = 0;
+    rusage usage{};
+    ASSERT_EQ(wait4(child, &status, 0, &usage), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 2) << ReadFile(Path("err.txt"));
+    EXPECT_TRUE(Contains(ReadFile(Path("err.txt")), "unpacks to more than 1000000 bytes"));
+    EXPECT_LT(usage.ru_maxrss, 100L * 1024) << "kilobytes at the peak, for 200 MiB unpacked";
+}
+
+TEST_F(InputTest, UnpackingWritesNoFile)
+{
+    const std::string scratch = Path("scratch");
+    ASSERT_EQ(mkdir(scratch.c_str(), 0700), 0);
+    SetEnv("TMPDIR", scratch);
+    const std::string catalog = Path("catalog.gz");
+    WriteFile(catalog, Compress("gzip", ReadFile(kCatalog)));
+    SetEnv("CATALOG", catalog);
+    SetEnv("INVENTORY", kInventory);
+    Result result = Bash("cd \"$TMPDIR\" && \"$TOOL\" updates --catalog \"$CATALOG\" --inventory - < \"$INVENTORY\"");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_TRUE(std::filesystem::is_empty(scratch)) << "nothing in TMPDIR nor in the working directory";
+}
+
 TEST_F(InputTest, StandardInputPipesAndProcessSubstitutionAreRead)
 {
     const Json plain = Plain();
-    setenv("CATALOG", kCatalog.c_str(), 1);
-    setenv("INVENTORY", kInventory.c_str(), 1);
+    SetEnv("CATALOG", kCatalog);
+    SetEnv("INVENTORY", kInventory);
     EXPECT_EQ(Answer(Bash("\"$TOOL\" updates --catalog \"$CATALOG\" --inventory - --json < \"$INVENTORY\"")), plain)
         << "standard input from a file";
     EXPECT_EQ(Answer(Bash("cat \"$INVENTORY\" | \"$TOOL\" updates --catalog \"$CATALOG\" --inventory - --json")),
@@ -309,7 +365,7 @@ TEST_F(InputTest, ReadErrorsNameTheirCause)
     ASSERT_EQ(chmod(secret.c_str(), 0), 0);
     ASSERT_EQ(chmod(mDir.c_str(), 0777), 0);
     const std::string as = geteuid() == 0 ? "setpriv --reuid=65534 --regid=65534 --clear-groups " : "";
-    setenv("SECRET", secret.c_str(), 1);
+    SetEnv("SECRET", secret);
     Result denied = Bash(as + "\"$TOOL\" catalog --catalog \"$SECRET\" --json");
     ExpectJsonError(denied, "not-readable", secret, "permission denied");
 }

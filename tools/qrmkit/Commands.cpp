@@ -262,14 +262,8 @@ std::string RenderUpdates(const Json& document, const Style& style)
                  {"CRIT"},
                  {"CATEGORY", true, 10}},
                 2);
-    std::string device;
-    bool first = true;
     for (const Json& update : document["updates"]) {
-        if (first || Text(update["device"]) != device) {
-            device = Text(update["device"]);
-            table.AddLine(device);
-            first = false;
-        }
+        table.AddGroup(Text(update["device"]));
         table.AddRow({Text(update["application"]), Text(update["installed_version"]),
                       Text(update["available_version"]), Text(update["status"]), Text(update["component_type"]),
                       Text(update["criticality"]), Text(update["category"]["text"])});

@@ -381,14 +381,8 @@ std::string RenderExplanation(const Json& document, const Style& style)
                  {"OUTCOME", false, 0, false, OutcomePaint},
                  {"REASON", true, 20}},
                 2);
-    std::string device;
-    bool first = true;
     for (const Json& row : document["applications"]) {
-        if (first || Text(row["device"]) != device) {
-            device = Text(row["device"]);
-            table.AddLine(device);
-            first = false;
-        }
+        table.AddGroup(Text(row["device"]));
         table.AddRow({Text(row["application"]), Text(row["installed_version"]), Text(row["outcome"]),
                       OneLine(Text(row["reason"]))});
     }

@@ -168,8 +168,6 @@ bool gVerbose = false;
 
 void SetVerbose(bool verbose) { gVerbose = verbose; }
 
-bool IsVerbose() { return gVerbose; }
-
 void Note(const std::string& text)
 {
     if (gVerbose) {

@@ -47,7 +47,6 @@ void LoadInventory(const std::string& path);
 
 // With --verbose, notes on standard error say what is read and chosen.
 void SetVerbose(bool verbose);
-bool IsVerbose();
 // Writes "qrmkit: TEXT" on standard error when verbose.
 void Note(const std::string& text);
 

@@ -99,6 +99,15 @@ void Table::AddLine(std::string text, std::size_t indent, bool keepEnd)
     mEntries.push_back(std::move(entry));
 }
 
+void Table::AddGroup(const std::string& heading)
+{
+    if (!mHasGroup || heading != mGroup) {
+        AddLine(heading);
+        mHasGroup = true;
+        mGroup = heading;
+    }
+}
+
 std::string Table::Render(const Style& style) const
 {
     const std::size_t maxWidth = style.width;

@@ -70,6 +70,9 @@ public:
     // A line outside the columns (a group heading, a note), written with its
     // own indentation and cut to the table's width.
     void AddLine(std::string text, std::size_t indent = 0, bool keepEnd = false);
+    // A group heading line, added only when it differs from the one before
+    // (rows of one device under one heading).
+    void AddGroup(const std::string& heading);
 
     // The header and every line, each ending with "\n", none wider than
     // the style's width as long as the columns' minimum widths allow it.
@@ -86,6 +89,8 @@ private:
     std::vector<Column> mColumns;
     std::size_t mIndent;
     std::vector<Entry> mEntries;
+    bool mHasGroup = false;
+    std::string mGroup;
 };
 
 }  // namespace qrmtool
