@@ -64,18 +64,39 @@ struct Supporter {
     const QRMSoftwareComponent* component = nullptr;
     QRMComponentTypeValueEnum type = QRM_COMPONENT_SBDL;
     bool inBundle = false;
-    // How it matches when it does: the component id, or the first PCI
-    // entry whose sub-ids are the device's or 0/0 (null when none is).
-    Json match;
+    // Whether it matches the device: by component id, or by a PCI entry
+    // whose sub-ids are the device's (exact) or 0/0; for a PCI match the
+    // first such entry's sub-ids.
+    bool matches = false;
+    bool exact = false;
+    std::uint32_t subVendor = 0;
+    std::uint32_t subDevice = 0;
     // The sub-id pairs of its entries with the device's vendor and device ids.
-    std::vector<std::string> subIds;
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> subIds;
 };
 
 class Explainer {
 public:
-    Explainer(const QRMSoftwareBundle* bundle)
+    explicit Explainer(const QRMSoftwareBundle* bundle)
     {
         QRMKitAPI::Instance()->GetSoftwareComponents(mComponents);
+        // Who supports what, read once: by component id, and by the vendor
+        // and device ids of every PCI entry.
+        for (std::size_t index = 0; index < mComponents.size(); ++index) {
+            std::vector<QRMDevice*> devices;
+            mComponents[index]->GetSupportedDevices(devices);
+            for (const QRMDevice* device : devices) {
+                if (device->GetComponentID() != 0) {
+                    mByComponentID[device->GetComponentID()].push_back(index);
+                }
+                std::vector<QRMPCIInfo*> entries;
+                device->GetPCIInfo(entries);
+                for (const QRMPCIInfo* entry : entries) {
+                    mByPci[PciKey(entry->GetVendorID(), entry->GetDeviceID())].push_back(
+                        {index, entry->GetSubVendorID(), entry->GetSubDeviceID()});
+                }
+            }
+        }
         if (bundle == nullptr) {
             return;
         }
@@ -97,47 +118,41 @@ public:
     std::vector<Supporter> SupportersOf(const DeviceIds& ids) const
     {
         std::vector<Supporter> supporters;
-        for (const QRMSoftwareComponent* component : mComponents) {
-            Supporter supporter;
-            bool supports = false;
-            std::vector<QRMDevice*> devices;
-            component->GetSupportedDevices(devices);
-            for (const QRMDevice* device : devices) {
-                if (ids.ByComponentID()) {
-                    if (device->GetComponentID() == ids.componentID) {
-                        supports = true;
-                        if (supporter.match.is_null()) {
-                            supporter.match = {{"by", "component-id"}, {"component_id", ids.componentID}};
-                        }
-                    }
-                    continue;
-                }
-                std::vector<QRMPCIInfo*> entries;
-                device->GetPCIInfo(entries);
-                for (const QRMPCIInfo* entry : entries) {
-                    if (entry->GetVendorID() != ids.vendor || entry->GetDeviceID() != ids.device) {
-                        continue;
-                    }
-                    supports = true;
-                    const std::uint32_t subVendor = entry->GetSubVendorID();
-                    const std::uint32_t subDevice = entry->GetSubDeviceID();
-                    supporter.subIds.push_back(Pci(subVendor, subDevice));
-                    const bool exact = subVendor == ids.subVendor && subDevice == ids.subDevice;
-                    if (supporter.match.is_null() && (exact || (subVendor == 0 && subDevice == 0))) {
-                        supporter.match = {{"by", "pci"},
-                                           {"vendor_id", Hex(ids.vendor)},
-                                           {"device_id", Hex(ids.device)},
-                                           {"sub_vendor_id", Hex(subVendor)},
-                                           {"sub_device_id", Hex(subDevice)},
-                                           {"sub_ids", exact ? "exact" : "any"}};
-                    }
+        // The entries of one component come one after the other, components
+        // in catalog order.
+        auto supporterOf = [&](std::size_t index) -> Supporter& {
+            if (supporters.empty() || supporters.back().component != mComponents[index]) {
+                Supporter supporter;
+                supporter.component = mComponents[index];
+                supporter.type = supporter.component->GetComponentType().GetValue();
+                supporter.inBundle =
+                    mListed.count(std::u16string(FileName(supporter.component->GetPathView()))) != 0;
+                supporters.push_back(std::move(supporter));
+            }
+            return supporters.back();
+        };
+        if (ids.ByComponentID()) {
+            auto found = mByComponentID.find(ids.componentID);
+            if (found != mByComponentID.end()) {
+                for (std::size_t index : found->second) {
+                    supporterOf(index).matches = true;
                 }
             }
-            if (supports) {
-                supporter.component = component;
-                supporter.type = component->GetComponentType().GetValue();
-                supporter.inBundle = mListed.count(std::u16string(FileName(component->GetPathView()))) != 0;
-                supporters.push_back(std::move(supporter));
+            return supporters;
+        }
+        auto found = mByPci.find(PciKey(ids.vendor, ids.device));
+        if (found == mByPci.end()) {
+            return supporters;
+        }
+        for (const PciEntry& entry : found->second) {
+            Supporter& supporter = supporterOf(entry.component);
+            supporter.subIds.emplace_back(entry.subVendor, entry.subDevice);
+            const bool exact = entry.subVendor == ids.subVendor && entry.subDevice == ids.subDevice;
+            if (!supporter.matches && (exact || (entry.subVendor == 0 && entry.subDevice == 0))) {
+                supporter.matches = true;
+                supporter.exact = exact;
+                supporter.subVendor = entry.subVendor;
+                supporter.subDevice = entry.subDevice;
             }
         }
         return supporters;
@@ -176,7 +191,20 @@ public:
     }
 
 private:
+    struct PciEntry {
+        std::size_t component;
+        std::uint32_t subVendor;
+        std::uint32_t subDevice;
+    };
+
+    static std::uint64_t PciKey(std::uint32_t vendor, std::uint32_t device)
+    {
+        return (std::uint64_t(vendor) << 32) | device;
+    }
+
     std::vector<QRMSoftwareComponent*> mComponents;
+    std::unordered_map<unsigned long long, std::vector<std::size_t>> mByComponentID;
+    std::unordered_map<std::uint64_t, std::vector<PciEntry>> mByPci;
     std::vector<std::u16string> mPackagePaths;
     std::set<std::u16string> mListed;
     std::unordered_map<std::u16string, std::vector<const QRMSoftwareComponent*>> mByFileName;
@@ -266,10 +294,12 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
     std::vector<const Supporter*> matching;
     std::set<std::string> subIdsFound;
     for (const Supporter* supporter : typed) {
-        if (!supporter->match.is_null()) {
+        if (supporter->matches) {
             matching.push_back(supporter);
         }
-        subIdsFound.insert(supporter->subIds.begin(), supporter->subIds.end());
+        for (const auto& pair : supporter->subIds) {
+            subIdsFound.insert(Pci(pair.first, pair.second));
+        }
     }
     if (matching.empty()) {
         row["sub_ids"] = subIdsFound;
@@ -284,16 +314,22 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
     update.erase("device");
     update.erase("application");
     update.erase("installed_version");
-    update["matched_by"] = chosen->match;
+    std::string how;
+    if (ids.ByComponentID()) {
+        update["matched_by"] = {{"by", "component-id"}, {"component_id", ids.componentID}};
+        how = "component id " + std::to_string(ids.componentID);
+    } else {
+        update["matched_by"] = {{"by", "pci"},
+                                {"vendor_id", Hex(ids.vendor)},
+                                {"device_id", Hex(ids.device)},
+                                {"sub_vendor_id", Hex(chosen->subVendor)},
+                                {"sub_device_id", Hex(chosen->subDevice)},
+                                {"sub_ids", chosen->exact ? "exact" : "any"}};
+        how = "PCI " + Pci(ids.vendor, ids.device) +
+              (chosen->exact ? ", sub-ids " + Pci(chosen->subVendor, chosen->subDevice)
+                             : std::string(", any sub-ids (0000:0000 entry)"));
+    }
     row["update"] = update;
-    const Json& match = chosen->match;
-    const std::string how =
-        Text(match["by"]) == "component-id"
-            ? "component id " + Text(match["component_id"])
-            : "PCI " + Text(match["vendor_id"]) + ":" + Text(match["device_id"]) +
-                  (Text(match["sub_ids"]) == "exact"
-                       ? ", sub-ids " + Text(match["sub_vendor_id"]) + ":" + Text(match["sub_device_id"])
-                       : ", any sub-ids (0000:0000 entry)");
     return outcome("update", Text(update["available_version"]) + " (" + Text(update["status"]) + "), " +
                                  Text(update["path"]) + ", by " + how);
 }
