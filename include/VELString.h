@@ -68,6 +68,8 @@ public:
     // leading white space skipped, an optional sign (a minus negates modulo
     // 2^32), for std::hex an optional 0x prefix, digits up to the first
     // non-digit; the maximum on overflow; 0 when no number can be read.
+    // The stream is read in the classic locale: the number is the same
+    // whoever calls and whatever the program's global locale.
     unsigned int GetIntValue(NumberBase base) const;
 
     // The `count` code units that begin at `start` (clamped to the text).

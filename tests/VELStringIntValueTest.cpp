@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <locale>
 #include <random>
 #include <sstream>
 #include <string>
@@ -205,4 +206,50 @@ TEST(VELStringIntValue, RandomTextsMatchStreamExtraction)
             break;  // one failing text is enough to see the difference
         }
     }
+}
+
+namespace {
+
+// A global locale that groups digits by thousands with ",".
+struct ThousandsGrouping : std::numpunct<char> {
+    char do_thousands_sep() const override { return ','; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+class GroupingLocale {
+public:
+    GroupingLocale() : mOld(std::locale::global(std::locale(std::locale::classic(), new ThousandsGrouping))) {}
+    ~GroupingLocale() { std::locale::global(mOld); }
+    GroupingLocale(const GroupingLocale&) = delete;
+    GroupingLocale& operator=(const GroupingLocale&) = delete;
+
+private:
+    std::locale mOld;
+};
+
+}  // namespace
+
+TEST(VELStringIntValue, AProgramGetsTheNumberTheLibrarysOwnReadersGet)
+{
+    // QRMBrand::SetKey reads its text inside the library; this program passes
+    // its own std::dec. Under a locale that groups digits, a stream would
+    // read "1,000" as 1000; the library reads 1.
+    GroupingLocale grouping;
+    for (const char* text : {"1,000", "42", " 7x", "-3", "", "4294967296"}) {
+        QRMBrand brand;
+        ASSERT_EQ(brand.SetKey(VELString(text)), QRM_KIT_SUCCESS);
+        EXPECT_EQ(VELString(text).GetIntValue(std::dec), brand.GetKey()) << text;
+    }
+}
+
+TEST(VELStringIntValue, AGlobalLocaleThatGroupsDigitsChangesNothing)
+{
+    GroupingLocale grouping;
+    EXPECT_EQ(VELString("1,000").GetIntValue(std::dec), 1U);
+    EXPECT_EQ(VELString("1,000").GetIntValue(std::hex), 1U);
+    EXPECT_EQ(VELString("1,000").GetIntValue(std::oct), 1U);
+    EXPECT_EQ(VELString("17").GetIntValue(std::oct), 15U);
+    QRMBrand brand;
+    brand.SetKey(VELString("1,000"));
+    EXPECT_EQ(brand.GetKey(), 1U);
 }

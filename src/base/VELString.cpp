@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstring>
 #include <iterator>
+#include <locale>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
@@ -171,14 +172,27 @@ std::u16string VELString::GetUTF16String() const { return std::u16string(GetUTF1
 
 unsigned int VELString::GetIntValue(NumberBase base) const
 {
-    if (base == static_cast<NumberBase>(std::dec)) {
+    // The base is what the manipulator sets on a stream, not its address: a
+    // program's std::dec need not have the address the library sees, and
+    // every caller must get the number the library's own readers get.
+    std::ios_base::fmtflags field = std::ios_base::dec;
+    if (base == static_cast<NumberBase>(std::hex)) {
+        field = std::ios_base::hex;
+    } else if (base != nullptr && base != static_cast<NumberBase>(std::dec)) {
+        std::ios probe(nullptr);
+        base(probe);
+        field = probe.flags() & std::ios_base::basefield;
+    }
+    if (field == std::ios_base::dec) {
         return vel::ReadUnsigned(Data(), Size(), 10);
     }
-    if (base == static_cast<NumberBase>(std::hex)) {
+    if (field == std::ios_base::hex) {
         return vel::ReadUnsigned(Data(), Size(), 16);
     }
-    // Any other manipulator: ask the stream itself.
+    // Any other base: the stream itself, in the classic locale, so that a
+    // program's global locale (digit grouping, ...) changes nothing.
     std::istringstream stream(GetUTF8String());
+    stream.imbue(std::locale::classic());
     unsigned int value = 0;
     if (base != nullptr) {
         stream >> base;
