@@ -158,8 +158,10 @@ public:
 
     // Takes the entry at `index` out of the list without releasing it: it is
     // kept until the list is destroyed or assigned to.
+    // When memory runs out it throws std::bad_alloc and changes nothing.
     void Retire(std::size_t index)
     {
+        ReserveKept();
         T* removed = mItems[index];
         mItems.Erase(index);
         Keep(removed);
@@ -233,9 +235,13 @@ private:
         if (index == mItems.size()) {
             return QRM_KIT_NOT_FOUND;
         }
+        const bool last = index + 1 == mItems.size();
+        if (!last) {
+            ReserveKept();  // may throw std::bad_alloc: nothing has changed yet
+        }
         T* removed = mItems[index];
         mItems.Erase(index);
-        if (index == mItems.size()) {
+        if (last) {
             delete removed;
         } else {
             Keep(removed);
@@ -252,15 +258,20 @@ private:
         }
     }
 
-    void Keep(T* item)
+    // Makes room to keep one more taken-out entry; throws std::bad_alloc
+    // before anything is taken out.
+    void ReserveKept()
     {
-        std::unique_ptr<T> guard(item);
         if (!mRetired) {
             mRetired.reset(new std::vector<T*>);
         }
-        mRetired->push_back(item);
-        guard.release();
+        if (mRetired->size() == mRetired->capacity()) {
+            mRetired->reserve(mRetired->empty() ? 4 : 2 * mRetired->size());
+        }
     }
+
+    // Keeps a taken-out entry; ReserveKept made the room, so this cannot fail.
+    void Keep(T* item) noexcept { mRetired->push_back(item); }
 
     // The entries' pointers. Most lists hold one entry, so the first pointer
     // has a place of its own and only longer lists take memory from the heap.

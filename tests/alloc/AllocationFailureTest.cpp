@@ -308,3 +308,93 @@ TEST_F(AllocationFailure, CopiesOfInventoryDevicesThrowBadAllocAndLeaveValidObje
 }
 
 }  // namespace
+
+namespace {
+
+QRMIApplication Application(const char* version)
+{
+    QRMIApplication application;
+    application.SetComponentType(QRM_COMPONENT_FRMW);
+    application.SetVersion(VELString(version));
+    application.SetDisplay(VELString("Firmware"));
+    return application;
+}
+
+QRMPCIInfo Pci(unsigned int device)
+{
+    QRMPCIInfo info;
+    info.SetVendorID(0x8086);
+    info.SetDeviceID(device);
+    return info;
+}
+
+}  // namespace
+
+// A removal that keeps the removed entry alive (for the pointers callers
+// hold) must make room for it before taking it out: when memory runs out it
+// throws and changes nothing.
+TEST_F(AllocationFailure, ApplicationRemovalThatRunsOutOfMemoryChangesNothing)
+{
+    auto makeDevice = [](QRMIDevice& device) {
+        for (const char* version : {"1.0", "2.0", "3.0"}) {
+            ASSERT_EQ(QRM_KIT_SUCCESS, device.AddApplication(Application(version)));
+        }
+    };
+    const QRMIApplication removed = Application("1.0");
+    std::size_t total = 0;
+    {
+        QRMIDevice device;
+        makeDevice(device);
+        failing::FailFrom(0);
+        device.RemoveApplication(removed);
+        total = failing::Stop();
+    }
+    ASSERT_GT(total, 0U);
+    for (std::size_t n = 1; n <= total; ++n) {
+        QRMIDevice device;
+        makeDevice(device);
+        std::vector<QRMIApplication*> before;
+        device.GetApplications(before);
+        const std::string described = Describe(device);
+        bool threw = false;
+        failing::FailFrom(n);
+        try {
+            device.RemoveApplication(removed);
+        } catch (const std::bad_alloc&) {
+            threw = true;
+        }
+        failing::Stop();
+        ASSERT_TRUE(threw) << "allocation " << n << " of " << total;
+        std::vector<QRMIApplication*> after;
+        device.GetApplications(after);
+        EXPECT_EQ(after, before) << "allocation " << n;
+        EXPECT_EQ(Describe(device), described) << "allocation " << n;
+        EXPECT_EQ(before[0]->GetVersion().GetUTF8String(), "1.0") << "the entry a caller holds is whole";
+    }
+}
+
+TEST_F(AllocationFailure, ClosingUpRemovalThatRunsOutOfMemoryChangesNothing)
+{
+    QRMDevice device;
+    for (unsigned int id : {0x1593U, 0x1594U, 0x1595U}) {
+        ASSERT_EQ(QRM_KIT_SUCCESS, device.AddPCIInfo(Pci(id)));
+    }
+    std::vector<QRMPCIInfo*> before;
+    device.GetPCIInfo(before);
+
+    bool threw = false;
+    failing::FailFrom(1);
+    try {
+        device.RemovePCIInfo(Pci(0x1593));
+    } catch (const std::bad_alloc&) {
+        threw = true;
+    }
+    failing::Stop();
+    ASSERT_TRUE(threw);
+    std::vector<QRMPCIInfo*> after;
+    device.GetPCIInfo(after);
+    EXPECT_EQ(after, before);
+    ASSERT_EQ(after.size(), 3U);
+    EXPECT_EQ(after[0]->GetDeviceID(), 0x1593U);
+    EXPECT_EQ(after[1]->GetDeviceID(), 0x1594U);
+}
