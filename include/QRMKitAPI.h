@@ -95,7 +95,8 @@ public:
     // in the applicable bundle and that support the device (by component id,
     // or by PCI ids when the device's component id is 0) with the
     // application's component type, the newest by CompareVersion, the first
-    // found among equals. Devices with component id 2331 are never matched.
+    // found among equals. Devices with component id
+    // QRM_EXCLUDED_COMPONENT_ID (2331) are never matched.
     // The installed version and the architecture are not consulted.
     // Entries are added to `updates` (not cleared); QRM_KIT_FAILURE with
     // `updates` untouched when the catalog or the inventory is not parsed,

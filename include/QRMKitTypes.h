@@ -85,6 +85,11 @@ enum QRMSystemIDTypeEnum : int {
     QRM_SYSTEMID_TYPE_NETWORKSWITCH = 4        // "NETWORKSWITCH"
 };
 
+// The component id of inventory devices that never receive updates:
+// GetApplicableUpdates gives their applications no entry, whatever the
+// catalog says.
+constexpr unsigned long long QRM_EXCLUDED_COMPONENT_ID = 2331;
+
 // Text of each enumerator as the XML writes it; an empty text for a value
 // outside the enumeration.
 QRMKIT_API const char* QRMComponentTypeText(QRMComponentTypeValueEnum value);

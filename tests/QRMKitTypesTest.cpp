@@ -231,3 +231,8 @@ TEST(QRMSystemIDTypeFromText, EveryTextGivesItsValueAndOthersNone)
         EXPECT_EQ(QRM_SYSTEMID_TYPE_ROUTER, value) << "'" << text << "'";
     }
 }
+
+TEST(QRMKitTypes, ExcludedComponentIdIsTheOneThatNeverReceivesUpdates)
+{
+    EXPECT_EQ(2331ULL, QRM_EXCLUDED_COMPONENT_ID);
+}

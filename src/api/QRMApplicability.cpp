@@ -202,8 +202,7 @@ try {
     std::vector<QRMIApplication*> applications;
     for (const QRMIDevice* device : mInventory.Devices()) {
         const unsigned long long componentID = device->GetComponentID();
-        // Devices with this component id never receive updates.
-        if (componentID == 2331) {
+        if (componentID == QRM_EXCLUDED_COMPONENT_ID) {
             continue;
         }
         const unsigned int vendorID = static_cast<unsigned int>(device->GetVendorID());

@@ -152,10 +152,10 @@ QRMKitReturnCode QRMRollbackInformation::SetNote(VELString note) { return qrm::S
 
 bool QRMRollbackInformation::operator==(const QRMRollbackInformation& other) const
 {
-    return !(mRollbackIdentifier != other.mRollbackIdentifier) &&
+    return mRollbackIdentifier == other.mRollbackIdentifier &&
            mRollbackVersion == other.mRollbackVersion &&
-           !(mPackageIdentifier != other.mPackageIdentifier) && mPackagePath == other.mPackagePath &&
-           !(mSessionIdentifier != other.mSessionIdentifier) && mSequence == other.mSequence &&
+           mPackageIdentifier == other.mPackageIdentifier && mPackagePath == other.mPackagePath &&
+           mSessionIdentifier == other.mSessionIdentifier && mSequence == other.mSequence &&
            mFlags == other.mFlags && mNote == other.mNote;
 }
 
@@ -199,7 +199,7 @@ void QRMDependency::GetPnPInfo(std::vector<QRMPnPInfo>& out) const { mPnPInfo.Ap
 bool QRMDependency::operator==(const QRMDependency& other) const
 {
     return mType == other.mType && mName == other.mName && mVersion == other.mVersion &&
-           !(mIdentifier != other.mIdentifier) && mPath == other.mPath && mSize == other.mSize &&
+           mIdentifier == other.mIdentifier && mPath == other.mPath && mSize == other.mSize &&
            mFlags == other.mFlags && HasSameTexts(other) && mPCIInfo.AllPairsEqual(other.mPCIInfo) &&
            mPnPInfo.AllPairsEqual(other.mPnPInfo);
 }

@@ -71,10 +71,10 @@ QRMKitReturnCode QRMInventoryComponent::SetSize(unsigned long long value)
 bool QRMInventoryComponent::operator==(const QRMInventoryComponent& other) const
 {
     return mSchemaVersion == other.mSchemaVersion && mReleaseID == other.mReleaseID &&
-           !(mReleaseDate != other.mReleaseDate) && mVendorVersion == other.mVendorVersion &&
+           mReleaseDate == other.mReleaseDate && mVendorVersion == other.mVendorVersion &&
            mTolvarVersion == other.mTolvarVersion && mOSCode == other.mOSCode &&
            mHashMD5 == other.mHashMD5 && mPath == other.mPath &&
-           !(mDateTime != other.mDateTime) && mSize == other.mSize;
+           mDateTime == other.mDateTime && mSize == other.mSize;
 }
 
 bool QRMInventoryComponent::operator!=(const QRMInventoryComponent& other) const

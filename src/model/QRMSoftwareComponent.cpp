@@ -47,7 +47,7 @@ bool QRMFMPWrapperInformation::operator==(const QRMFMPWrapperInformation& other)
 {
     return mDigitallySigned == other.mDigitallySigned && mName == other.mName &&
            mInventorySupported == other.mInventorySupported &&
-           mUpdateSupported == other.mUpdateSupported && !(mIdentifier != other.mIdentifier) &&
+           mUpdateSupported == other.mUpdateSupported && mIdentifier == other.mIdentifier &&
            mFilePath == other.mFilePath && mDriverName == other.mDriverName &&
            mDriverVersion == other.mDriverVersion && mRollbackSupported == other.mRollbackSupported;
 }
@@ -228,14 +228,14 @@ bool QRMSoftwareComponent::operator==(const QRMSoftwareComponent& other) const
            mSupportedOperatingSystems == other.mSupportedOperatingSystems &&
            mine.installInstruction == theirs.installInstruction &&
            mine.revisionHistory == theirs.revisionHistory && mImportantInfo == other.mImportantInfo &&
-           mCriticality == other.mCriticality && !(mine.msiID != theirs.msiID) &&
+           mCriticality == other.mCriticality && mine.msiID == theirs.msiID &&
            mine.wrappers.AllPairsEqual(theirs.wrappers) && mSchemaVersion == other.mSchemaVersion &&
-           mReleaseID == other.mReleaseID && !(mReleaseDate != other.mReleaseDate) &&
+           mReleaseID == other.mReleaseID && mReleaseDate == other.mReleaseDate &&
            mVendorVersion == other.mVendorVersion && mTolvarVersion == other.mTolvarVersion &&
            mPackageType == other.mPackageType && mine.xmlGenVersion == theirs.xmlGenVersion &&
            mPath == other.mPath && mPackageID == other.mPackageID &&
-           !(mDateTime != other.mDateTime) && mHashMD5 == other.mHashMD5 && mine.size == theirs.size &&
-           !(mine.identifier != theirs.identifier) && !(mine.predecessor != theirs.predecessor) &&
+           mDateTime == other.mDateTime && mHashMD5 == other.mHashMD5 && mine.size == theirs.size &&
+           mine.identifier == theirs.identifier && mine.predecessor == theirs.predecessor &&
            mine.requiresReboot == theirs.requiresReboot &&
            mine.requiresContainerPowerCycle == theirs.requiresContainerPowerCycle;
 }

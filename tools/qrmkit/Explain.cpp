@@ -17,9 +17,6 @@ namespace qrmtool {
 
 namespace {
 
-// The component id whose devices never receive updates.
-constexpr unsigned long long kExcludedComponentID = 2331;
-
 // How many packages a "not-in-bundle" outcome names.
 constexpr std::size_t kNamedPackages = 3;
 
@@ -244,8 +241,8 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
         return row;
     };
 
-    if (ids.componentID == kExcludedComponentID) {
-        return outcome("device-excluded", "component id " + std::to_string(kExcludedComponentID) +
+    if (ids.componentID == QRM_EXCLUDED_COMPONENT_ID) {
+        return outcome("device-excluded", "component id " + std::to_string(QRM_EXCLUDED_COMPONENT_ID) +
                                               " never receives updates");
     }
     if (choice.bundle == nullptr) {
@@ -369,7 +366,7 @@ Json CollectExplanation(const std::string& catalog, const std::string& inventory
         }
         const DeviceIds ids = IdsOf(*device);
         const std::vector<Supporter> supporters =
-            ids.componentID == kExcludedComponentID || choice.bundle == nullptr ? std::vector<Supporter>()
+            ids.componentID == QRM_EXCLUDED_COMPONENT_ID || choice.bundle == nullptr ? std::vector<Supporter>()
                                                                                  : explainer.SupportersOf(ids);
         for (const QRMIApplication* application : applications) {
             Json row = Explain(*device, *application, ids, supporters, explainer, choice, bundleType, typesWithBundle,
