@@ -10,22 +10,14 @@
 // left with "0", a text with more fields newer than its own prefix).
 #include "FuzzSupport.h"
 
+#include "api/QRMVersion.h"
+
 #include <cstdint>
 #include <cstring>
 #include <string>
 #include <vector>
 
 using namespace qrmfuzz;
-
-// The library's test hook: a friend of QRMKitAPI that reaches the private
-// padding step.
-class QRMKitAPITestPeer {
-public:
-    static int MakeEqualLength(QRMKitAPI& api, VELString& first, VELString& second)
-    {
-        return api.MakeEqualLength(first, second);
-    }
-};
 
 namespace {
 
@@ -117,7 +109,7 @@ void CheckPair(QRMKitAPI& api, const VELString& first, const VELString& second)
     // it only ever appends ".0".
     VELString a = first;
     VELString b = second;
-    const int padded = QRMKitAPITestPeer::MakeEqualLength(api, a, b);
+    const int padded = qrm::PadToSameFieldCount(a, b);
     Check(padded == 0 || padded == -1, "MakeEqualLength: a result other than 0 or -1");
     if (padded == -1) {
         Check(a == first && b == second, "MakeEqualLength: a text changed although it failed");

@@ -2,13 +2,14 @@
 #ifndef QRMKIT_BRAND_H
 #define QRMKIT_BRAND_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
 #include "QRMModel.h"
-#include "QRMOwnedList.h"
+#include "detail/QRMOwnedList.h"
 
 #include <vector>
 
-class QRMKIT_API QRMBrand : public QRMDisplayList {
+class QRMKIT_API QRMBrand {
 public:
     QRMBrand();
     QRMBrand(const QRMBrand& other);
@@ -28,6 +29,11 @@ public:
     // Appends the held models themselves, in order; `out` is not cleared.
     void GetModels(std::vector<QRMModel*>& out) const;
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
     // Key, prefix, the texts by the language-matching rule, equal numbers of
     // models; then every pair of models (one from each side) that share
     // system id and second id must be the very same object. So a brand is
@@ -37,9 +43,10 @@ public:
     bool operator!=(const QRMBrand& other) const;
 
 private:
+    qrm::detail::DisplayTexts mTexts;
     unsigned int mKey;
     VELString mPrefix;
-    QRMOwnedList<QRMModel> mModels;
+    qrm::detail::OwnedList<QRMModel> mModels;
 };
 
 #endif

@@ -2,12 +2,30 @@
 #ifndef QRMKIT_CATEGORY_H
 #define QRMKIT_CATEGORY_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "QRMKitTypes.h"
+#include "VELString.h"
+#include "detail/QRMDisplayTexts.h"
 
-class QRMKIT_API QRMCategory : public QRMTextsDisplayList<QRMCategory, 1> {
+#include <vector>
+
+class QRMKIT_API QRMCategory {
 public:
-    VELString GetCode() const { return GetText(0); }
-    QRMKitReturnCode SetCode(VELString code) { return SetText(0, std::move(code)); }
+    VELString GetCode() const;
+    QRMKitReturnCode SetCode(VELString code);
+
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
+    // Code, then the texts by the language-matching rule.
+    bool operator==(const QRMCategory& other) const;
+    bool operator!=(const QRMCategory& other) const;
+
+private:
+    VELString mCode;
+    qrm::detail::DisplayTexts mTexts;
 };
 
 #endif

@@ -3,15 +3,16 @@
 #ifndef QRMKIT_DEPENDENCY_H
 #define QRMKIT_DEPENDENCY_H
 
-#include "QRMDisplayList.h"
-#include "QRMOwnedList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
 #include "QRMPCIInfo.h"
 #include "QRMPnPInfo.h"
 #include "VELGUID.h"
 
 #include <vector>
 
-class QRMKIT_API QRMDependency : public QRMDisplayList {
+class QRMKIT_API QRMDependency {
 public:
     QRMDependency();
     QRMDependency(const QRMDependency& other);
@@ -42,12 +43,18 @@ public:
     QRMKitReturnCode AddPnPInfo(QRMPnPInfo pnpInfo);
     void GetPnPInfo(std::vector<QRMPnPInfo>& out) const;
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
     // The fields in order, the texts by the language-matching rule, then the
     // PCI and PnP lists by the all-pairs rule.
     bool operator==(const QRMDependency& other) const;
     bool operator!=(const QRMDependency& other) const;
 
 private:
+    qrm::detail::DisplayTexts mTexts;
     unsigned int mType;
     VELString mName;
     VELString mVersion;
@@ -55,8 +62,8 @@ private:
     VELString mPath;
     unsigned long long mSize;
     unsigned int mFlags;
-    QRMOwnedList<QRMPCIInfo> mPCIInfo;
-    QRMOwnedList<QRMPnPInfo> mPnPInfo;
+    qrm::detail::OwnedList<QRMPCIInfo> mPCIInfo;
+    qrm::detail::OwnedList<QRMPnPInfo> mPnPInfo;
 };
 
 #endif

@@ -7,18 +7,19 @@
 
 #include "QRMDependency.h"
 #include "QRMDeviceApplicability.h"
-#include "QRMDisplayList.h"
-#include "QRMOwnedList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
 #include "QRMPCIInfo.h"
 #include "QRMPnPInfo.h"
 #include "QRMRollbackInformation.h"
-#include "QRMSeldom.h"
+#include "detail/QRMSeldom.h"
 #include "QRMSoftDependency.h"
 #include "QRMSubComponent.h"
 
 #include <vector>
 
-class QRMKIT_API QRMDevice : public QRMDisplayList {
+class QRMKIT_API QRMDevice {
 public:
     QRMDevice();
     QRMDevice(const QRMDevice& other);
@@ -67,6 +68,11 @@ public:
     bool HasPCI(const QRMPCIInfo& pciInfo) const;
     bool HasPnP(const QRMPnPInfo& pnpInfo) const;
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
     // Component id, embedded flag, rollback information; then every list by
     // the all-pairs rule, the texts included (whole texts, language and
     // value: two devices with two different texts each are never equal).
@@ -74,10 +80,11 @@ public:
     bool operator!=(const QRMDevice& other) const;
 
 private:
+    qrm::detail::DisplayTexts mTexts;
     struct Records;
 
-    QRMOwnedList<QRMPCIInfo> mPCIInfo;
-    QRMSeldom<Records> mRecords;
+    qrm::detail::OwnedList<QRMPCIInfo> mPCIInfo;
+    qrm::detail::Seldom<Records> mRecords;
     unsigned long long mComponentID;
     bool mEmbedded;
 };

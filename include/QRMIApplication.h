@@ -3,11 +3,12 @@
 #ifndef QRMKIT_I_APPLICATION_H
 #define QRMKIT_I_APPLICATION_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
 #include "QRMKitTypes.h"
 #include "VELString.h"
 
-class QRMKIT_API QRMIApplication : public QRMDisplayList {
+class QRMKIT_API QRMIApplication {
 public:
     QRMIApplication();
     QRMIApplication(const QRMIApplication& other);
@@ -25,6 +26,11 @@ public:
     VELString GetSubComponentID() const;
     QRMKitReturnCode SetSubComponentID(VELString subComponentID);
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
     // Component type, version, display, sub-component id, then the texts by
     // the language-matching rule (same count; texts agree where languages
     // coincide).
@@ -32,6 +38,7 @@ public:
     bool operator!=(const QRMIApplication& other) const;
 
 private:
+    qrm::detail::DisplayTexts mTexts;
     QRMComponentTypeValueEnum mComponentType;
     VELString mVersion;
     VELString mDisplay;

@@ -3,16 +3,16 @@
 #ifndef QRMKIT_I_DEVICE_H
 #define QRMKIT_I_DEVICE_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
 #include "QRMIApplication.h"
 #include "QRMKitTypes.h"
-#include "QRMOwnedList.h"
+#include "detail/QRMApplicationList.h"
 #include "VELString.h"
 
-#include <memory>
 #include <vector>
 
-class QRMKIT_API QRMIDevice : public QRMDisplayList {
+class QRMKIT_API QRMIDevice {
 public:
     QRMIDevice();
     // Deep copy, applications included.
@@ -57,6 +57,11 @@ public:
     // caller cannot tell removal from absence. Kept for compatibility.
     QRMKitReturnCode RemoveApplication(const QRMIApplication& application);
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
     // Display name, the nine numbers, the texts where languages coincide
     // (their counts are not compared); then the devices are unequal as soon
     // as an application of one equals an application of the other. Kept for
@@ -66,16 +71,8 @@ public:
     bool operator!=(const QRMIDevice& other) const;
 
 private:
-    struct ApplicationIndex;
-    void DropApplicationIndex() const;
-
-    QRMOwnedList<QRMIApplication> mApplications;
-    // Finds an equal application without walking them all, while the
-    // device is being filled (a device may list very many). Trusted only as
-    // long as no caller can have changed a held application: once they are
-    // handed out, AddApplication walks the list again.
-    mutable std::unique_ptr<ApplicationIndex> mApplicationIndex;
-    mutable bool mApplicationsHandedOut;
+    qrm::detail::DisplayTexts mTexts;
+    qrm::detail::ApplicationList mApplications;
     VELString mDisplay;
     int mBus;
     int mDevice;

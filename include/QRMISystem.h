@@ -3,11 +3,12 @@
 #ifndef QRMKIT_I_SYSTEM_H
 #define QRMKIT_I_SYSTEM_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
 #include "QRMKitTypes.h"
 #include "VELString.h"
 
-class QRMKIT_API QRMISystem : public QRMDisplayList {
+class QRMKIT_API QRMISystem {
 public:
     QRMISystem();
     QRMISystem(const QRMISystem& other);
@@ -26,12 +27,18 @@ public:
     VELString GetServiceTag() const;
     QRMKitReturnCode SetServiceTag(VELString serviceTag);
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
     // System id, id type, display, service tag, then the texts by the
     // language-matching rule.
     bool operator==(const QRMISystem& other) const;
     bool operator!=(const QRMISystem& other) const;
 
 private:
+    qrm::detail::DisplayTexts mTexts;
     unsigned int mSystemID;
     QRMSystemIDTypeEnum mSystemIDType;
     VELString mDisplay;

@@ -3,12 +3,30 @@
 #ifndef QRMKIT_IMPORTANT_INFO_H
 #define QRMKIT_IMPORTANT_INFO_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "QRMKitTypes.h"
+#include "VELString.h"
+#include "detail/QRMDisplayTexts.h"
 
-class QRMKIT_API QRMImportantInfo : public QRMTextsDisplayList<QRMImportantInfo, 1> {
+#include <vector>
+
+class QRMKIT_API QRMImportantInfo {
 public:
-    VELString GetURL() const { return GetText(0); }
-    QRMKitReturnCode SetURL(VELString url) { return SetText(0, std::move(url)); }
+    VELString GetURL() const;
+    QRMKitReturnCode SetURL(VELString url);
+
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
+    // URL, then the texts by the language-matching rule.
+    bool operator==(const QRMImportantInfo& other) const;
+    bool operator!=(const QRMImportantInfo& other) const;
+
+private:
+    VELString mURL;
+    qrm::detail::DisplayTexts mTexts;
 };
 
 #endif

@@ -3,15 +3,33 @@
 #ifndef QRMKIT_INSTALL_INSTRUCTION_H
 #define QRMKIT_INSTALL_INSTRUCTION_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "QRMKitTypes.h"
+#include "VELString.h"
+#include "detail/QRMDisplayTexts.h"
 
-// Compared by command, then arguments, then the language-matching rule.
-class QRMKIT_API QRMInstallInstruction : public QRMTextsDisplayList<QRMInstallInstruction, 2> {
+#include <vector>
+
+class QRMKIT_API QRMInstallInstruction {
 public:
-    VELString GetCommand() const { return GetText(0); }
-    QRMKitReturnCode SetCommand(VELString command) { return SetText(0, std::move(command)); }
-    VELString GetArguments() const { return GetText(1); }
-    QRMKitReturnCode SetArguments(VELString arguments) { return SetText(1, std::move(arguments)); }
+    VELString GetCommand() const;
+    QRMKitReturnCode SetCommand(VELString command);
+    VELString GetArguments() const;
+    QRMKitReturnCode SetArguments(VELString arguments);
+
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
+    // Command, then arguments, then the texts by the language-matching rule.
+    bool operator==(const QRMInstallInstruction& other) const;
+    bool operator!=(const QRMInstallInstruction& other) const;
+
+private:
+    VELString mCommand;
+    VELString mArguments;
+    qrm::detail::DisplayTexts mTexts;
 };
 
 #endif

@@ -9,10 +9,8 @@
 #include "VELXML.h"
 
 #include "QRMKitTypes.h"
-#include "QRMOwnedList.h"
 
 #include "QRMDisplay.h"
-#include "QRMDisplayList.h"
 #include "QRMName.h"
 #include "QRMRevisionHistory.h"
 #include "QRMCategory.h"

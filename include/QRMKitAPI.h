@@ -140,8 +140,6 @@ public:
     bool IsCatalogParsed() const;
 
 private:
-    friend class QRMKitAPITestPeer;
-
     QRMKitAPI();
     QRMKitAPI(const QRMKitAPI& other);
 

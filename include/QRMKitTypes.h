@@ -2,17 +2,8 @@
 #ifndef QRMKIT_TYPES_H
 #define QRMKIT_TYPES_H
 
+#include "QRMKitExport.h"
 #include "VELString.h"
-
-#if defined(_WIN32)
-#  if defined(QRMKIT_BUILDING)
-#    define QRMKIT_API __declspec(dllexport)
-#  else
-#    define QRMKIT_API __declspec(dllimport)
-#  endif
-#else
-#  define QRMKIT_API __attribute__((visibility("default")))
-#endif
 
 // The result of every mutating operation. Callers test by equality; the
 // codes are never combined. The value 2 is unassigned and never returned.

@@ -2,7 +2,7 @@
 #ifndef QRMKIT_VERSION_H
 #define QRMKIT_VERSION_H
 
-#include "VELExport.h"
+#include "QRMKitExport.h"
 
 // "MAJOR.MINOR.PATCH" of the loaded library, which may be newer than the one
 // a program was built against (the major number stays the same for as long

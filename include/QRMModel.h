@@ -3,14 +3,15 @@
 #ifndef QRMKIT_MODEL_H
 #define QRMKIT_MODEL_H
 
-#include "QRMDisplayList.h"
-#include "QRMOwnedList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
 
 #include <vector>
 
 class QRMBrand;
 
-class QRMKIT_API QRMModel : public QRMDisplayList {
+class QRMKIT_API QRMModel {
 public:
     QRMModel();
     QRMModel(const QRMModel& other);
@@ -34,11 +35,16 @@ public:
     // Appends the held brands themselves, in order; `out` is not cleared.
     void GetSubBrands(std::vector<QRMBrand*>& out) const;
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
 private:
+    qrm::detail::DisplayTexts mTexts;
     unsigned int mSystemID;
     unsigned int mSecondID;
     unsigned int mThirdID;
-    QRMOwnedList<QRMBrand> mSubBrands;
+    qrm::detail::OwnedList<QRMBrand> mSubBrands;
 };
 
 #endif

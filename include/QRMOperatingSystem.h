@@ -4,10 +4,11 @@
 #ifndef QRMKIT_OPERATING_SYSTEM_H
 #define QRMKIT_OPERATING_SYSTEM_H
 
-#include "QRMDisplayList.h"
-#include "QRMOwnedList.h"
+#include "QRMDisplay.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
 
-class QRMKIT_API QRMOperatingSystem : public QRMDisplayList {
+class QRMKIT_API QRMOperatingSystem {
 public:
     QRMOperatingSystem();
     QRMOperatingSystem(const QRMOperatingSystem& other);
@@ -40,6 +41,11 @@ public:
     QRMKitReturnCode AddNumericTag(unsigned int tag);
     void GetNumericTags(std::vector<unsigned int>& out) const;
 
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
     // Code, vendor, architecture, the four version texts, the
     // pre-install flag, the suite mask, the tags by the all-pairs rule, then
     // the texts by the language-matching rule.
@@ -47,6 +53,7 @@ public:
     bool operator!=(const QRMOperatingSystem& other) const;
 
 private:
+    qrm::detail::DisplayTexts mTexts;
     VELString mCode;
     VELString mVendor;
     QRMOSArchitectureEnum mArchitecture;
@@ -56,7 +63,7 @@ private:
     VELString mServicePackMinorVersion;
     bool mPreInstallEnvironment;
     unsigned long long mSuiteMask;
-    QRMOwnedList<unsigned int> mNumericTags;
+    qrm::detail::OwnedList<unsigned int> mNumericTags;
 };
 
 #endif

@@ -6,11 +6,11 @@
 
 #include "QRMBundleContent.h"
 #include "QRMComponentType.h"
-#include "QRMDisplayList.h"
+#include "detail/QRMDisplayTexts.h"
 #include "QRMImportantInfo.h"
 #include "QRMKitTypes.h"
 #include "QRMName.h"
-#include "QRMOwnedList.h"
+#include "detail/QRMOwnedList.h"
 #include "QRMRevisionHistory.h"
 #include "QRMSupportedOperatingSystems.h"
 #include "QRMSupportedSystems.h"
@@ -79,12 +79,12 @@ public:
 private:
     QRMName mName;
     QRMComponentType mComponentType;
-    QRMDisplayList mDescription;
+    qrm::detail::DisplayTexts mDescription;
     QRMSupportedSystems mTargetSystems;
     QRMSupportedOperatingSystems mTargetOSes;
     QRMRevisionHistory mRevisionHistory;
     QRMImportantInfo mImportantInfo;
-    QRMOwnedList<QRMBundleContent> mContents;
+    qrm::detail::OwnedList<QRMBundleContent> mContents;
     VELString mSchemaVersion;
     VELString mReleaseID;
     VELTime mDateTime;

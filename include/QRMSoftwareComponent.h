@@ -9,15 +9,15 @@
 #include "QRMComponentType.h"
 #include "QRMCriticality.h"
 #include "QRMDevice.h"
-#include "QRMDisplayList.h"
+#include "detail/QRMDisplayTexts.h"
 #include "QRMFMPWrapperInformation.h"
 #include "QRMImportantInfo.h"
 #include "QRMInstallInstruction.h"
 #include "QRMKitTypes.h"
 #include "QRMLUCategory.h"
 #include "QRMName.h"
-#include "QRMOwnedList.h"
-#include "QRMSeldom.h"
+#include "detail/QRMOwnedList.h"
+#include "detail/QRMSeldom.h"
 #include "QRMRevisionHistory.h"
 #include "QRMSupportedOperatingSystems.h"
 #include "QRMSupportedSystems.h"
@@ -97,9 +97,7 @@ public:
     bool RequiresContainerPowerCycle() const;
     QRMKitReturnCode SetRequiresContainerPowerCycle(bool value);
 
-    // The description's texts, under the rules of every display list
-    // (QRMDisplayList::AddDisplayValue, RemoveDisplayValue,
-    // GetDisplayValues).
+    // The description's texts, under the display-text rule (QRMDisplay.h).
     void GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const;
     QRMKitReturnCode AddDescriptionDisplayValue(VELString language, VELString value);
     QRMKitReturnCode RemoveDescriptionDisplayValue(const VELString& language);
@@ -129,17 +127,17 @@ public:
 private:
     QRMName mName;
     QRMComponentType mComponentType;
-    QRMDisplayList mDescription;
+    qrm::detail::DisplayTexts mDescription;
     QRMCategory mCategory;
     QRMLUCategory mLUCategory;
-    QRMOwnedList<QRMDevice> mSupportedDevices;
+    qrm::detail::OwnedList<QRMDevice> mSupportedDevices;
     QRMSupportedSystems mSupportedSystems;
     QRMSupportedOperatingSystems mSupportedOperatingSystems;
     QRMImportantInfo mImportantInfo;
     QRMCriticality mCriticality;
     // Install instruction, revision history, wrappers, GUIDs, size, flags.
     struct Extras;
-    QRMSeldom<Extras> mExtras;
+    qrm::detail::Seldom<Extras> mExtras;
     VELString mSchemaVersion;
     VELString mReleaseID;
     VELTime mReleaseDate;

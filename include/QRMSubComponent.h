@@ -3,15 +3,33 @@
 #ifndef QRMKIT_SUB_COMPONENT_H
 #define QRMKIT_SUB_COMPONENT_H
 
-#include "QRMDisplayList.h"
+#include "QRMDisplay.h"
+#include "QRMKitTypes.h"
+#include "VELString.h"
+#include "detail/QRMDisplayTexts.h"
 
-// Compared by name, then version, then the language-matching rule.
-class QRMKIT_API QRMSubComponent : public QRMTextsDisplayList<QRMSubComponent, 2> {
+#include <vector>
+
+class QRMKIT_API QRMSubComponent {
 public:
-    VELString GetName() const { return GetText(0); }
-    QRMKitReturnCode SetName(VELString name) { return SetText(0, std::move(name)); }
-    VELString GetVersion() const { return GetText(1); }
-    QRMKitReturnCode SetVersion(VELString version) { return SetText(1, std::move(version)); }
+    VELString GetName() const;
+    QRMKitReturnCode SetName(VELString name);
+    VELString GetVersion() const;
+    QRMKitReturnCode SetVersion(VELString version);
+
+    // The texts, under the display-text rule (QRMDisplay.h).
+    QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
+    QRMKitReturnCode RemoveDisplayValue(const VELString& language);
+    void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
+    // Name, then version, then the texts by the language-matching rule.
+    bool operator==(const QRMSubComponent& other) const;
+    bool operator!=(const QRMSubComponent& other) const;
+
+private:
+    VELString mName;
+    VELString mVersion;
+    qrm::detail::DisplayTexts mTexts;
 };
 
 #endif

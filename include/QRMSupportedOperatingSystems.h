@@ -4,7 +4,7 @@
 #define QRMKIT_SUPPORTED_OPERATING_SYSTEMS_H
 
 #include "QRMOperatingSystem.h"
-#include "QRMOwnedList.h"
+#include "detail/QRMOwnedList.h"
 
 #include <vector>
 
@@ -33,7 +33,7 @@ public:
     bool operator!=(const QRMSupportedOperatingSystems& other) const;
 
 private:
-    QRMOwnedList<QRMOperatingSystem> mOperatingSystems;
+    qrm::detail::OwnedList<QRMOperatingSystem> mOperatingSystems;
 };
 
 #endif

@@ -4,7 +4,7 @@
 #define QRMKIT_SUPPORTED_SYSTEMS_H
 
 #include "QRMBrand.h"
-#include "QRMOwnedList.h"
+#include "detail/QRMOwnedList.h"
 
 #include <vector>
 
@@ -29,7 +29,7 @@ public:
     bool operator!=(const QRMSupportedSystems& other) const;
 
 private:
-    QRMOwnedList<QRMBrand> mBrands;
+    qrm::detail::OwnedList<QRMBrand> mBrands;
     bool mDisplay;
 };
 

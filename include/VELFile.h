@@ -2,7 +2,7 @@
 #ifndef VEL_FILE_H
 #define VEL_FILE_H
 
-#include "VELExport.h"
+#include "QRMKitExport.h"
 #include "VELString.h"
 
 #include <string>

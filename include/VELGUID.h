@@ -2,7 +2,7 @@
 #ifndef VEL_GUID_H
 #define VEL_GUID_H
 
-#include "VELExport.h"
+#include "QRMKitExport.h"
 
 #include <array>
 

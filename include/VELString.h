@@ -11,7 +11,7 @@
 #ifndef VEL_STRING_H
 #define VEL_STRING_H
 
-#include "VELExport.h"
+#include "QRMKitExport.h"
 
 #include <cstddef>
 #include <ios>

@@ -4,7 +4,7 @@
 #ifndef VEL_TIME_H
 #define VEL_TIME_H
 
-#include "VELExport.h"
+#include "QRMKitExport.h"
 
 class VEL_API VELTime {
 public:

@@ -9,6 +9,8 @@
 #include "QRMSoftDependency.h"
 #include "QRMSubComponent.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -90,25 +92,17 @@ QRMSoftDependency MakeSoftDependency()
     return dependency;
 }
 
-std::vector<std::pair<std::string, std::string>> TextsOf(const QRMDisplayList& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    std::vector<std::pair<std::string, std::string>> texts;
-    for (const QRMDisplay& display : copies) {
-        texts.emplace_back(U8(display.GetLanguage()), U8(display.GetValue()));
-    }
-    return texts;
-}
-
-std::vector<QRMPCIInfo> PCIOf(const QRMDependency& dependency)
+// For a dependency or a soft dependency.
+template <class Dependency>
+std::vector<QRMPCIInfo> PCIOf(const Dependency& dependency)
 {
     std::vector<QRMPCIInfo> out;
     dependency.GetPCIInfo(out);
     return out;
 }
 
-std::vector<QRMPnPInfo> PnPOf(const QRMDependency& dependency)
+template <class Dependency>
+std::vector<QRMPnPInfo> PnPOf(const Dependency& dependency)
 {
     std::vector<QRMPnPInfo> out;
     dependency.GetPnPInfo(out);

@@ -3,6 +3,8 @@
 // removing, copying and equality rules.
 #include "QRMDevice.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -106,17 +108,6 @@ std::vector<QRMDeviceApplicability> ApplicabilityOf(const QRMDevice& device)
     std::vector<QRMDeviceApplicability> out;
     device.GetApplicability(out);
     return out;
-}
-
-std::vector<std::pair<std::string, std::string>> TextsOf(const QRMDisplayList& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    std::vector<std::pair<std::string, std::string>> texts;
-    for (const QRMDisplay& display : copies) {
-        texts.emplace_back(U8(display.GetLanguage()), U8(display.GetValue()));
-    }
-    return texts;
 }
 
 void ExpectPCI(const QRMPCIInfo& pci, unsigned int vendorID, unsigned int deviceID,

@@ -10,6 +10,8 @@
 #include "QRMName.h"
 #include "QRMRevisionHistory.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -21,18 +23,6 @@
 namespace {
 
 typedef std::vector<std::pair<std::string, std::string>> Texts;
-
-template <class Holder>
-Texts TextsOf(const Holder& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    Texts result;
-    for (const QRMDisplay& display : copies) {
-        result.emplace_back(display.GetLanguage().GetUTF8String(), display.GetValue().GetUTF8String());
-    }
-    return result;
-}
 
 std::vector<QRMDisplay*> PointersOf(const QRMName& name)
 {
@@ -256,7 +246,7 @@ TEST(QRMNameDisplayPointers, SelfAssignmentLeavesAnEmptyList)
     QRMName& alias = name;
     name = alias;
     EXPECT_TRUE(PointersOf(name).empty());
-    EXPECT_EQ(0u, name.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(name));
     EXPECT_TRUE(name == QRMName());
 }
 
@@ -659,7 +649,7 @@ void RemoveEveryOrderAndMatchTheModel(const std::vector<std::string>& order)
     Texts model = initial;
     for (const std::string& language : order) {
         EXPECT_EQ(ModelRemove(model, language), holder.RemoveDisplayValue(VELString(language.c_str())));
-        EXPECT_EQ(model.size(), holder.GetDisplayValueCount());
+        EXPECT_EQ(model.size(), TextCount(holder));
         EXPECT_EQ(model, TextsOf(holder));
     }
     Holder copy(holder);
@@ -670,7 +660,7 @@ void RemoveEveryOrderAndMatchTheModel(const std::vector<std::string>& order)
     assigned = holder;
     EXPECT_EQ(model, TextsOf(assigned));
     holder = Holder();
-    EXPECT_EQ(0u, holder.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(holder));
     EXPECT_EQ(model, TextsOf(copy));
 }
 
@@ -706,12 +696,12 @@ TEST(DisplayValueMemory, HoldersSurviveMixedRemovalsCopiesAndAssignments)
     std::vector<QRMDisplay*> kept = PointersOf(*name);
     EXPECT_EQ(QRM_KIT_SUCCESS, name->RemoveDisplayValue(VELString("fr")));  // clears "de"
     EXPECT_EQ(QRM_KIT_SUCCESS, name->RemoveDisplayValue(VELString("en")));  // clears the cleared one
-    ASSERT_EQ(1u, name->GetDisplayValueCount());
+    ASSERT_EQ(1u, TextCount(*name));
     EXPECT_EQ(kept[2], PointersOf(*name)[0]);
     EXPECT_EQ("", LanguageOf(kept[2]));
     EXPECT_EQ(QRM_KIT_SUCCESS, name->AddDisplayValue(VELString("es"), VELString("E")));
     EXPECT_EQ(QRM_KIT_SUCCESS, name->RemoveDisplayValue(VELString("es")));  // the last: released
-    EXPECT_EQ(1u, name->GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(*name));
 
     QRMCategory category;
     EXPECT_EQ(QRM_KIT_SUCCESS, category.SetCode(VELString("AS")));
@@ -725,7 +715,7 @@ TEST(DisplayValueMemory, HoldersSurviveMixedRemovalsCopiesAndAssignments)
     EXPECT_EQ("AS", categoryAssigned.GetCode().GetUTF8String());
     QRMCategory& categoryAlias = categoryAssigned;
     categoryAssigned = categoryAlias;
-    EXPECT_EQ(0u, categoryAssigned.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(categoryAssigned));
     EXPECT_EQ("AS", categoryAssigned.GetCode().GetUTF8String());
 
     QRMCriticality criticality;
@@ -755,13 +745,13 @@ TEST(DisplayValueMemory, HoldersSurviveMixedRemovalsCopiesAndAssignments)
     EXPECT_EQ(QRM_KIT_SUCCESS, history.RemoveDisplayValue(VELString("en")));
     EXPECT_EQ(QRM_KIT_SUCCESS, history.RemoveDisplayValue(VELString("")));
     EXPECT_EQ(QRM_KIT_SUCCESS, instruction.RemoveDisplayValue(VELString("en")));
-    EXPECT_EQ(1u, info.GetDisplayValueCount());
-    EXPECT_EQ(1u, luCategory.GetDisplayValueCount());
-    EXPECT_EQ(0u, history.GetDisplayValueCount());
-    EXPECT_EQ(1u, instruction.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(info));
+    EXPECT_EQ(1u, TextCount(luCategory));
+    EXPECT_EQ(0u, TextCount(history));
+    EXPECT_EQ(1u, TextCount(instruction));
 
     QRMName other(*name);
     *name = other;
     name.reset();
-    EXPECT_EQ(1u, other.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(other));
 }

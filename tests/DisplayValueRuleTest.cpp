@@ -10,6 +10,8 @@
 #include "QRMName.h"
 #include "QRMRevisionHistory.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -20,19 +22,6 @@
 namespace {
 
 typedef std::vector<std::pair<std::string, std::string>> Texts;
-
-// The texts a holder hands out as copies, in list order.
-template <class Holder>
-Texts TextsOf(const Holder& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    Texts result;
-    for (const QRMDisplay& display : copies) {
-        result.emplace_back(display.GetLanguage().GetUTF8String(), display.GetValue().GetUTF8String());
-    }
-    return result;
-}
 
 // The field each class keeps besides its texts, set and read back as text so
 // that one test body covers every class. `variant` picks one of several
@@ -164,7 +153,7 @@ TYPED_TEST_SUITE(DisplayValueRule, DisplayHolders, HolderNames);
 TYPED_TEST(DisplayValueRule, NewHolderHasNoTexts)
 {
     TypeParam holder;
-    EXPECT_EQ(0u, holder.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(holder));
     EXPECT_TRUE(TextsOf(holder).empty());
 }
 
@@ -174,7 +163,7 @@ TYPED_TEST(DisplayValueRule, AddAppendsEachNewLanguageAtTheEnd)
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("en"), VELString("Driver")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("fr"), VELString("Pilote")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("de"), VELString("Treiber")));
-    EXPECT_EQ(3u, holder.GetDisplayValueCount());
+    EXPECT_EQ(3u, TextCount(holder));
     EXPECT_EQ((Texts{{"en", "Driver"}, {"fr", "Pilote"}, {"de", "Treiber"}}), TextsOf(holder));
 }
 
@@ -218,10 +207,10 @@ TYPED_TEST(DisplayValueRule, SameDisplayValueAddedTwiceThenRemovedTwice)
     TypeParam holder;
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("es"), VELString("Controlador")));
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, holder.AddDisplayValue(VELString("es"), VELString("Controlador")));
-    EXPECT_EQ(1u, holder.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(holder));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.RemoveDisplayValue(VELString("es")));
     EXPECT_EQ(QRM_KIT_NOT_FOUND, holder.RemoveDisplayValue(VELString("es")));
-    EXPECT_EQ(0u, holder.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(holder));
     EXPECT_TRUE(TextsOf(holder).empty());
 }
 
@@ -232,7 +221,7 @@ TYPED_TEST(DisplayValueRule, RemovingFromAnEmptyListReturnsNotFound)
     TypeParam holder;
     EXPECT_EQ(QRM_KIT_NOT_FOUND, holder.RemoveDisplayValue(VELString("en")));
     EXPECT_EQ(QRM_KIT_NOT_FOUND, holder.RemoveDisplayValue(VELString("")));
-    EXPECT_EQ(0u, holder.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(holder));
 }
 
 TYPED_TEST(DisplayValueRule, RemovingAnAbsentLanguageReturnsNotFoundAndChangesNothing)
@@ -251,7 +240,7 @@ TYPED_TEST(DisplayValueRule, RemovingTheOnlyEntryEmptiesTheList)
     TypeParam holder;
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("en"), VELString("A")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.RemoveDisplayValue(VELString("en")));
-    EXPECT_EQ(0u, holder.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(holder));
     EXPECT_TRUE(TextsOf(holder).empty());
 }
 
@@ -262,7 +251,7 @@ TYPED_TEST(DisplayValueRule, RemovingTheLastEntryShortensTheListAndKeepsTheOther
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("fr"), VELString("B")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("de"), VELString("C")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.RemoveDisplayValue(VELString("de")));
-    EXPECT_EQ(2u, holder.GetDisplayValueCount());
+    EXPECT_EQ(2u, TextCount(holder));
     EXPECT_EQ((Texts{{"en", "A"}, {"fr", "B"}}), TextsOf(holder));
 }
 
@@ -272,7 +261,7 @@ TYPED_TEST(DisplayValueRule, RemovingTheFirstOfTwoLeavesOneClearedEntry)
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("en"), VELString("A")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("fr"), VELString("B")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.RemoveDisplayValue(VELString("en")));
-    EXPECT_EQ(1u, holder.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(holder));
     // The entry that followed the removed one has been released: it reads
     // as a new, empty text.
     EXPECT_EQ((Texts{{"", ""}}), TextsOf(holder));
@@ -308,7 +297,7 @@ TYPED_TEST(DisplayValueRule, ClearedEntryIsFoundByTheEmptyLanguage)
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.RemoveDisplayValue(VELString("en")));
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, holder.AddDisplayValue(VELString(""), VELString("X")));
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.RemoveDisplayValue(VELString("")));
-    EXPECT_EQ(0u, holder.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(holder));
 }
 
 // ---------------------------------------------------------------- reading
@@ -420,7 +409,7 @@ TYPED_TEST(DisplayValueRule, DestroyingTheCopyLeavesTheSourceUntouched)
     EXPECT_EQ(QRM_KIT_SUCCESS, source.AddDisplayValue(VELString("fr"), VELString("B")));
     {
         std::unique_ptr<TypeParam> copy(new TypeParam(source));
-        EXPECT_EQ(2u, copy->GetDisplayValueCount());
+        EXPECT_EQ(2u, TextCount(*copy));
         EXPECT_EQ(QRM_KIT_SUCCESS, copy->RemoveDisplayValue(VELString("en")));
     }
     EXPECT_EQ(TestFixture::Traits::Expected(4), TestFixture::Traits::Scalar(source));
@@ -467,7 +456,7 @@ TYPED_TEST(DisplayValueRule, AssigningAnEmptyHolderEmptiesTheTexts)
     EXPECT_EQ(QRM_KIT_SUCCESS, target.AddDisplayValue(VELString("it"), VELString("R")));
     EXPECT_EQ(QRM_KIT_SUCCESS, target.RemoveDisplayValue(VELString("de")));
     target = TypeParam();
-    EXPECT_EQ(0u, target.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(target));
     EXPECT_EQ(TestFixture::Traits::Scalar(TypeParam()), TestFixture::Traits::Scalar(target));
 }
 
@@ -497,7 +486,7 @@ TYPED_TEST(DisplayValueRule, SelfAssignmentKeepsTheFieldAndEmptiesTheTexts)
     TypeParam& alias = holder;
     holder = alias;
     EXPECT_EQ(TestFixture::Traits::Expected(3), TestFixture::Traits::Scalar(holder));
-    EXPECT_EQ(0u, holder.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(holder));
     EXPECT_TRUE(TextsOf(holder).empty());
     // The emptied holder is usable as before.
     EXPECT_EQ(QRM_KIT_SUCCESS, holder.AddDisplayValue(VELString("en"), VELString("C")));

@@ -248,20 +248,6 @@ TEST(HostileNumber, VersionFieldOfAHundredThousandDigitsComparesAsANumber)
     EXPECT_EQ(0, API()->CompareVersion(VELString(("000" + std::string(kFields - 1, '9')).c_str()), nines));
 }
 
-TEST(HostileNumber, PaddingToAHundredThousandFields)
-{
-    VELString first("7");
-    VELString second(kSevens.c_str());
-    ASSERT_EQ(0, QRMKitAPITestPeer::MakeEqualLength(first, second));
-    EXPECT_EQ(VELString(("7" + Repeat(".0", kFields - 1)).c_str()), first);
-    EXPECT_EQ(VELString(kSevens.c_str()), second);
-    VELString shorter("7");
-    VELString longer(kSevensThenEight.c_str());
-    ASSERT_EQ(0, QRMKitAPITestPeer::MakeEqualLength(longer, shorter));
-    EXPECT_EQ(VELString(("7" + Repeat(".0", kFields - 1)).c_str()), shorter);
-    EXPECT_EQ(VELString(kSevensThenEight.c_str()), longer);
-}
-
 TEST(HostileNumber, CatalogVersionsOfAHundredThousandFieldsPickTheNewer)
 {
     TempDir dir;

@@ -116,8 +116,8 @@ TEST(HostileScale, ApplicationTextsCarryOverToEveryLaterApplication)
     ASSERT_EQ(count, stored.size());
     std::size_t texts = 0;
     for (std::size_t i = 0; i < count; ++i) {
-        EXPECT_EQ(i + 1, stored[i]->GetDisplayValueCount()) << i;
-        texts += stored[i]->GetDisplayValueCount();
+        EXPECT_EQ(i + 1, TextCount(*stored[i])) << i;
+        texts += TextCount(*stored[i]);
     }
     EXPECT_EQ(count * (count + 1) / 2, texts);
     std::vector<QRMDisplay> last;

@@ -4,6 +4,8 @@
 #include "QRMIApplication.h"
 #include "QRMIDevice.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -15,25 +17,6 @@ namespace {
 typedef std::vector<std::pair<std::string, std::string>> Texts;
 
 std::string Str(const VELString& text) { return text.GetUTF8String(); }
-
-template <class Holder>
-Texts TextsOf(const Holder& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    Texts result;
-    for (const QRMDisplay& display : copies) {
-        result.emplace_back(Str(display.GetLanguage()), Str(display.GetValue()));
-    }
-    return result;
-}
-
-std::vector<QRMIApplication*> ApplicationsOf(const QRMIDevice& device)
-{
-    std::vector<QRMIApplication*> applications;
-    device.GetApplications(applications);
-    return applications;
-}
 
 QRMIApplication Application(const char* display, const char* version, const char* subComponentID = "")
 {

@@ -172,7 +172,7 @@ TEST(InventorySystemValue, AssignmentAndMovesCarryEveryField)
     EXPECT_EQ(0x0A6Bu, target.GetSystemID());
     EXPECT_EQ(QRM_SYSTEMID_TYPE_RAIDCHASSIS, target.GetSystemIDType());
     EXPECT_EQ(VELString("ABC1234"), target.GetServiceTag());
-    EXPECT_EQ(1u, target.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(target));
     QRMISystem moved(std::move(target));
     EXPECT_EQ(VELString("S740"), moved.GetDisplay());
     QRMISystem last;

@@ -3,6 +3,8 @@
 #include "QRMOperatingSystem.h"
 #include "QRMSupportedOperatingSystems.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -38,17 +40,6 @@ std::vector<std::string> CodesOf(const QRMSupportedOperatingSystems& list)
         codes.push_back(U8(os.GetCode()));
     }
     return codes;
-}
-
-std::vector<std::pair<std::string, std::string>> TextsOf(const QRMOperatingSystem& os)
-{
-    std::vector<QRMDisplay> copies;
-    os.GetDisplayValues(copies);
-    std::vector<std::pair<std::string, std::string>> texts;
-    for (const QRMDisplay& display : copies) {
-        texts.emplace_back(U8(display.GetLanguage()), U8(display.GetValue()));
-    }
-    return texts;
 }
 
 std::vector<unsigned int> TagsOf(const QRMOperatingSystem& os)

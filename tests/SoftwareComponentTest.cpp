@@ -3,6 +3,8 @@
 // equality.
 #include "QRMSoftwareComponent.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -29,14 +31,6 @@ Texts TextsOf(const std::vector<QRMDisplay>& displays)
         result.emplace_back(Str(display.GetLanguage()), Str(display.GetValue()));
     }
     return result;
-}
-
-template <class Holder>
-Texts TextsOf(const Holder& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    return TextsOf(copies);
 }
 
 Texts DescriptionOf(const QRMSoftwareComponent& component)
@@ -237,8 +231,8 @@ TEST(QRMSoftwareComponentDefaults, NewComponentHasEmptyLists)
     EXPECT_TRUE(DescriptionOf(component).empty());
     EXPECT_TRUE(DevicesOf(component).empty());
     EXPECT_TRUE(WrappersOf(component).empty());
-    EXPECT_EQ(0u, component.GetName().GetDisplayValueCount());
-    EXPECT_EQ(0u, component.GetRevisionHistory().GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(component.GetName()));
+    EXPECT_EQ(0u, TextCount(component.GetRevisionHistory()));
     std::vector<QRMOperatingSystem> oses;
     component.GetSupportedOperatingSystems().GetOSes(oses);
     EXPECT_TRUE(oses.empty());
@@ -252,7 +246,7 @@ TEST(QRMSoftwareComponentDefaults, NewComponentHasEmptyDescriptiveMembers)
 {
     QRMSoftwareComponent component;
     EXPECT_EQ(QRM_COMPONENT_SBDL, component.GetComponentType().GetValue());
-    EXPECT_EQ(0u, component.GetComponentType().GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(component.GetComponentType()));
     EXPECT_EQ(QRM_CRITICALITY_LEVEL1, component.GetCriticality().GetValue());
     EXPECT_EQ("", Str(component.GetCategory().GetCode()));
     EXPECT_EQ("", Str(component.GetLUCategory().GetCode()));
@@ -1605,7 +1599,7 @@ TEST(QRMSoftwareComponentCopy, SelfAssignmentEmptiesDevicesWrappersAndDescriptio
     EXPECT_TRUE(DevicesOf(component).empty());
     EXPECT_TRUE(WrappersOf(component).empty());
     EXPECT_TRUE(DescriptionOf(component).empty());
-    EXPECT_EQ(0u, component.GetName().GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(component.GetName()));
 }
 
 TEST(QRMSoftwareComponentCopy, SelfAssignmentKeepsScalarFields)

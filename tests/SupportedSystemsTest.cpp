@@ -5,6 +5,8 @@
 #include "QRMModel.h"
 #include "QRMSupportedSystems.h"
 
+#include "TestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -50,17 +52,6 @@ std::vector<QRMBrand*> SubBrandsOf(const QRMModel& model)
     std::vector<QRMBrand*> brands;
     model.GetSubBrands(brands);
     return brands;
-}
-
-std::vector<std::pair<std::string, std::string>> TextsOf(const QRMDisplayList& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    std::vector<std::pair<std::string, std::string>> texts;
-    for (const QRMDisplay& display : copies) {
-        texts.emplace_back(U8(display.GetLanguage()), U8(display.GetValue()));
-    }
-    return texts;
 }
 
 }  // namespace

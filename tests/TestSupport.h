@@ -8,10 +8,34 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A fresh directory under the system's temporary directory, removed with
 // everything in it when the object goes.
+// The texts of anything that carries them, as (language, value) pairs, in
+// order.
+template <class Holder>
+std::vector<std::pair<std::string, std::string>> TextsOf(const Holder& holder)
+{
+    std::vector<QRMDisplay> copies;
+    holder.GetDisplayValues(copies);
+    std::vector<std::pair<std::string, std::string>> texts;
+    for (const QRMDisplay& display : copies) {
+        texts.emplace_back(display.GetLanguage().GetUTF8String(), display.GetValue().GetUTF8String());
+    }
+    return texts;
+}
+
+// How many texts a holder carries.
+template <class Holder>
+std::size_t TextCount(const Holder& holder)
+{
+    std::vector<QRMDisplay> copies;
+    holder.GetDisplayValues(copies);
+    return copies.size();
+}
+
 class TempDir {
 public:
     TempDir();
@@ -103,18 +127,5 @@ std::string Document(const std::string& rootAttributes, const std::string& entri
                      const std::string& rootName = "Manifest");
 
 }  // namespace CatalogXML
-
-class QRMKitAPITestPeer {
-public:
-    static int MakeEqualLength(VELString& first, VELString& second)
-    {
-        return QRMKitAPI::Instance()->MakeEqualLength(first, second);
-    }
-    // A second object made with the private copy constructor.
-    static std::unique_ptr<QRMKitAPI> Copy(const QRMKitAPI& api)
-    {
-        return std::unique_ptr<QRMKitAPI>(new QRMKitAPI(api));
-    }
-};
 
 #endif

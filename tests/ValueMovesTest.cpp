@@ -3,6 +3,8 @@
 // change; by-value setters; the duplicate check of an inventory device's
 // applications; and the in-place path views.
 #include "QRMKit.h"
+#include "TestSupport.h"
+#include "detail/QRMOwnedList.h"
 
 #include <gtest/gtest.h>
 
@@ -112,18 +114,6 @@ std::vector<QRMPCIInfo*> PCIOf(const QRMDevice& device)
     std::vector<QRMPCIInfo*> out;
     device.GetPCIInfo(out);
     return out;
-}
-
-template <class Holder>
-std::vector<std::pair<std::string, std::string>> TextsOf(const Holder& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    std::vector<std::pair<std::string, std::string>> texts;
-    for (const QRMDisplay& display : copies) {
-        texts.emplace_back(Str(display.GetLanguage()), Str(display.GetValue()));
-    }
-    return texts;
 }
 
 template <class Item>
@@ -242,18 +232,18 @@ std::vector<RecordKind> RecordKinds()
 
 // ======================================================== owned lists
 
-TEST(QRMOwnedListMoves, MovingHandsOverTheSameObjectsAndLeavesTheSourceEmptyAndUsable)
+TEST(OwnedListMoves, MovingHandsOverTheSameObjectsAndLeavesTheSourceEmptyAndUsable)
 {
     for (unsigned int count : {1u, 2u, 1000u}) {
         SCOPED_TRACE(count);
-        QRMOwnedList<QRMPCIInfo> source;
+        qrm::detail::OwnedList<QRMPCIInfo> source;
         for (unsigned int i = 0; i < count; ++i) {
             source.Append(NthPCI(i));
         }
         std::vector<QRMPCIInfo*> before;
         source.AppendPointersTo(before);
 
-        QRMOwnedList<QRMPCIInfo> target(std::move(source));
+        qrm::detail::OwnedList<QRMPCIInfo> target(std::move(source));
         std::vector<QRMPCIInfo*> after;
         target.AppendPointersTo(after);
         EXPECT_EQ(before, after);
@@ -268,7 +258,7 @@ TEST(QRMOwnedListMoves, MovingHandsOverTheSameObjectsAndLeavesTheSourceEmptyAndU
         ASSERT_EQ(3u, source.Size());
         ExpectNthPCI(*source.At(2), 102);
 
-        QRMOwnedList<QRMPCIInfo> assigned;
+        qrm::detail::OwnedList<QRMPCIInfo> assigned;
         assigned.Append(NthPCI(9999));
         assigned.Append(NthPCI(9998));
         assigned = std::move(target);
@@ -281,9 +271,9 @@ TEST(QRMOwnedListMoves, MovingHandsOverTheSameObjectsAndLeavesTheSourceEmptyAndU
     }
 }
 
-TEST(QRMOwnedListMoves, SelfMoveAssignmentLeavesAValidList)
+TEST(OwnedListMoves, SelfMoveAssignmentLeavesAValidList)
 {
-    QRMOwnedList<QRMPCIInfo> list;
+    qrm::detail::OwnedList<QRMPCIInfo> list;
     list.Append(NthPCI(1));
     list.Append(NthPCI(2));
     list = std::move(Same(list));
@@ -297,9 +287,9 @@ TEST(QRMOwnedListMoves, SelfMoveAssignmentLeavesAValidList)
     ExpectNthPCI(*list.At(size), 3);
 }
 
-TEST(QRMOwnedListMoves, EntriesTakenOutButKeptMoveWithTheList)
+TEST(OwnedListMoves, EntriesTakenOutButKeptMoveWithTheList)
 {
-    QRMOwnedList<QRMPCIInfo> source;
+    qrm::detail::OwnedList<QRMPCIInfo> source;
     for (unsigned int i = 0; i < 4; ++i) {
         source.Append(NthPCI(i));
     }
@@ -307,7 +297,7 @@ TEST(QRMOwnedListMoves, EntriesTakenOutButKeptMoveWithTheList)
     source.Retire(1);
     QRMPCIInfo* removed = source.At(0);
     ASSERT_EQ(QRM_KIT_SUCCESS, source.RemoveClosingUpEqual(NthPCI(0)));
-    QRMOwnedList<QRMPCIInfo> target(std::move(source));
+    qrm::detail::OwnedList<QRMPCIInfo> target(std::move(source));
     // Still owned (by the target now): readable until it goes.
     ExpectNthPCI(*retired, 1);
     ExpectNthPCI(*removed, 0);
@@ -318,11 +308,11 @@ TEST(QRMOwnedListMoves, EntriesTakenOutButKeptMoveWithTheList)
 
 TEST(QRMOwnedListCopies, CopyIsDeepAndInOrderAndSelfAssignmentEmpties)
 {
-    QRMOwnedList<QRMPCIInfo> source;
+    qrm::detail::OwnedList<QRMPCIInfo> source;
     for (unsigned int i = 0; i < 1000; ++i) {
         source.Append(NthPCI(i));
     }
-    QRMOwnedList<QRMPCIInfo> copy(source);
+    qrm::detail::OwnedList<QRMPCIInfo> copy(source);
     ASSERT_EQ(1000u, copy.Size());
     std::set<const QRMPCIInfo*> sourcePointers(source.begin(), source.end());
     for (unsigned int i = 0; i < 1000; ++i) {
@@ -332,7 +322,7 @@ TEST(QRMOwnedListCopies, CopyIsDeepAndInOrderAndSelfAssignmentEmpties)
     copy.At(0)->SetVendorID(1);
     ExpectNthPCI(*source.At(0), 0);
 
-    QRMOwnedList<QRMPCIInfo> assigned;
+    qrm::detail::OwnedList<QRMPCIInfo> assigned;
     assigned.Append(NthPCI(5000));
     assigned = source;
     ASSERT_EQ(1000u, assigned.Size());
@@ -346,9 +336,9 @@ TEST(QRMOwnedListEquality, AllPairsRuleAsksAGivenEqualityBothWays)
 {
     // With a one-sided relation ("device id not greater") the first list's
     // entries all pass against the second's, but not the other way round.
-    QRMOwnedList<QRMPCIInfo> lower;
+    qrm::detail::OwnedList<QRMPCIInfo> lower;
     lower.Append(NthPCI(1));
-    QRMOwnedList<QRMPCIInfo> higher;
+    qrm::detail::OwnedList<QRMPCIInfo> higher;
     higher.Append(NthPCI(2));
     auto notGreater = [](const QRMPCIInfo& left, const QRMPCIInfo& right) {
         return left.GetDeviceID() <= right.GetDeviceID();
@@ -361,7 +351,7 @@ TEST(QRMOwnedListEquality, AllPairsRuleAsksAGivenEqualityBothWays)
 
 TEST(QRMOwnedListOrder, AThousandEntriesKeepTheirOrderThroughGrowthAndRemoval)
 {
-    QRMOwnedList<QRMPCIInfo> list;
+    qrm::detail::OwnedList<QRMPCIInfo> list;
     std::vector<QRMPCIInfo*> pointers;
     for (unsigned int i = 0; i < 1000; ++i) {
         EXPECT_EQ(QRM_KIT_SUCCESS, list.AddUnique(NthPCI(i)));
@@ -699,18 +689,18 @@ TEST(QRMByValueSetters, ComponentSettersLeaveTheirArgumentsUnchanged)
     name.AddDisplayValue("en", Long("Driver"));
     name.AddDisplayValue("de", Long("Treiber"));
     component.SetName(name);
-    EXPECT_EQ(2u, name.GetDisplayValueCount());
-    EXPECT_EQ(2u, component.GetName().GetDisplayValueCount());
+    EXPECT_EQ(2u, TextCount(name));
+    EXPECT_EQ(2u, TextCount(component.GetName()));
     QRMInstallInstruction instruction;
     instruction.SetCommand(Long("setup.exe"));
     instruction.AddDisplayValue("en", "Run it");
     component.SetInstallInstruction(instruction);
     EXPECT_EQ(Str(Long("setup.exe")), Str(instruction.GetCommand()));
-    EXPECT_EQ(1u, instruction.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(instruction));
     QRMRevisionHistory history;
     history.AddDisplayValue("en", Long("Fixes"));
     component.SetRevisionHistory(history);
-    EXPECT_EQ(1u, history.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(history));
     QRMOperatingSystem os;
     os.SetCode(Long("WIN"));
     os.AddNumericTag(5);
@@ -763,7 +753,7 @@ TEST(QRMByValueSetters, OtherSettersLeaveTheirArgumentsUnchanged)
     QRMIDevice device;
     device.AddApplication(application);
     EXPECT_EQ(Str(Long("1.2.3.4.5.6")), Str(application.GetVersion()));
-    EXPECT_EQ(1u, application.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(application));
     VELString display = Long("Controller");
     device.SetDisplay(display);
     EXPECT_EQ(Str(Long("Controller")), Str(display));
@@ -822,7 +812,7 @@ void ExpectNewExtras(const QRMSoftwareComponent& component)
 {
     EXPECT_TRUE(component.GetInstallInstruction() == QRMInstallInstruction());
     EXPECT_TRUE(component.GetInstallInstruction().GetCommand().IsEmpty());
-    EXPECT_EQ(0u, component.GetRevisionHistory().GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(component.GetRevisionHistory()));
     EXPECT_EQ(0u, WrapperCount(component));
     EXPECT_TRUE(component.GetMSIID().IsNil());
     EXPECT_TRUE(component.GetIdentifier().IsNil());
@@ -924,10 +914,10 @@ TEST(QRMSoftwareComponentMoves, MoveConstructionHandsOverTheSameDevicesAndLeaves
     EXPECT_EQ(4096ULL, target.GetSize());
     EXPECT_TRUE(target.RequiresReboot());
     EXPECT_TRUE(target.GetIdentifier() == Guid(0x31));
-    EXPECT_EQ(1u, target.GetName().GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(target.GetName()));
 
     EXPECT_TRUE(DevicesOf(source).empty());
-    EXPECT_EQ(0u, source.GetName().GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(source.GetName()));
     std::vector<QRMDisplay> description;
     source.GetDescriptionDisplayValues(description);
     EXPECT_TRUE(description.empty());
@@ -1029,7 +1019,7 @@ TEST(QRMSoftwareComponentSeldom, AllFieldsTogetherComeBackAfterCopyAndMove)
     QRMSoftwareComponent moved(std::move(copy));
     for (const QRMSoftwareComponent* c : {&component, &moved}) {
         EXPECT_EQ("setup.exe", Str(c->GetInstallInstruction().GetCommand()));
-        EXPECT_EQ(1u, c->GetRevisionHistory().GetDisplayValueCount());
+        EXPECT_EQ(1u, TextCount(c->GetRevisionHistory()));
         EXPECT_EQ(1u, WrapperCount(*c));
         EXPECT_TRUE(c->GetMSIID() == Guid(0x21));
         EXPECT_TRUE(c->GetIdentifier() == Guid(0x31));
@@ -1080,7 +1070,7 @@ TEST(QRMValueMoves, NameMoveHandsOverTheSameTextObjects)
     std::vector<QRMDisplay*> after;
     target.GetDisplayValues(after);
     EXPECT_EQ(before, after);
-    EXPECT_EQ(0u, source.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(source));
     EXPECT_EQ(QRM_KIT_SUCCESS, source.AddDisplayValue("en", "again"));
 
     QRMName assigned;
@@ -1090,7 +1080,7 @@ TEST(QRMValueMoves, NameMoveHandsOverTheSameTextObjects)
     assigned.GetDisplayValues(afterAssignment);
     EXPECT_EQ(before, afterAssignment);
     EXPECT_EQ(Str(Long("Treiber")), Str(afterAssignment[1]->GetValue()));
-    EXPECT_EQ(0u, target.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(target));
 
     QRMName copy(assigned);
     std::vector<QRMDisplay*> copied;
@@ -1119,11 +1109,11 @@ TEST(QRMValueMoves, OperatingSystemMoveKeepsTagsAndTextsAndEmptiesTheSource)
     }
     EXPECT_EQ(Str(Long("WIN")), Str(target.GetCode()));
     EXPECT_EQ("10", Str(target.GetMajorVersion()));
-    EXPECT_EQ(1u, target.GetDisplayValueCount());
+    EXPECT_EQ(1u, TextCount(target));
     std::vector<unsigned int> sourceTags;
     source.GetNumericTags(sourceTags);
     EXPECT_TRUE(sourceTags.empty());
-    EXPECT_EQ(0u, source.GetDisplayValueCount());
+    EXPECT_EQ(0u, TextCount(source));
     EXPECT_EQ(QRM_KIT_SUCCESS, source.AddNumericTag(3));
 
     std::vector<unsigned int> copiedTags;
@@ -1189,13 +1179,6 @@ QRMIApplication App(int i, const char* subComponentID = "")
     application.SetDisplay(VELString(("Application number " + std::to_string(i)).c_str()));
     application.SetSubComponentID(subComponentID);
     return application;
-}
-
-std::vector<QRMIApplication*> ApplicationsOf(const QRMIDevice& device)
-{
-    std::vector<QRMIApplication*> out;
-    device.GetApplications(out);
-    return out;
 }
 
 const int kMany = 20000;

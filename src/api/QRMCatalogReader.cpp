@@ -15,6 +15,7 @@
 #include <memory>
 
 using qrm::AttributeNumber;
+using qrm::detail::XmlElement;
 using qrm::AttributeOrEmpty;
 using qrm::Element;
 using qrm::Failed;
@@ -25,7 +26,7 @@ namespace {
 template <class Node>
 VELTime TimeAttribute(const Node& node, const char* name)
 {
-    return VELTime(AttributeNumber(node, name, std::dec));
+    return VELTime(AttributeNumber(node, name, 10));
 }
 
 // Adds the "lang" and text of the element's "Display" child (exactly one),
@@ -33,7 +34,7 @@ VELTime TimeAttribute(const Node& node, const char* name)
 template <class Node, class Holder>
 QRMKitReturnCode AddOptionalDisplay(const Node& node, Holder& holder)
 {
-    VELXMLNode display = SingleChild(node, "Display");
+    XmlElement display = SingleChild(node, "Display");
     if (display.IsNull()) {
         return QRM_KIT_SUCCESS;
     }
@@ -46,11 +47,11 @@ QRMKitReturnCode AddOptionalDisplay(const Node& node, Holder& holder)
 template <class Entry>
 QRMKitReturnCode ReadNameTypeDescription(const Element& node, Entry& entry)
 {
-    VELXMLNode nameNode = SingleChild(node, "Name");
+    XmlElement nameNode = SingleChild(node, "Name");
     if (nameNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    VELXMLNode nameDisplay = SingleChild(nameNode, "Display");
+    XmlElement nameDisplay = SingleChild(nameNode, "Display");
     if (nameDisplay.IsNull()) {
         return QRM_KIT_FAILURE;
     }
@@ -61,14 +62,14 @@ QRMKitReturnCode ReadNameTypeDescription(const Element& node, Entry& entry)
     }
     entry.SetName(std::move(name));
 
-    VELXMLNode typeNode = SingleChild(node, "ComponentType");
+    XmlElement typeNode = SingleChild(node, "ComponentType");
     if (typeNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
     QRMComponentTypeValueEnum code = QRM_COMPONENT_SBDL;
     QRMComponentTypeFromText(AttributeOrEmpty(typeNode, "value"), code);
     QRMComponentType componentType;
-    if (VELXMLNode typeDisplay = SingleChild(typeNode, "Display")) {
+    if (XmlElement typeDisplay = SingleChild(typeNode, "Display")) {
         typeDisplay.GetAttributeValue("lang", language);
         if (Failed(componentType.AddDisplayValue(language, typeDisplay.GetValue()))) {
             return QRM_KIT_FAILURE;
@@ -79,8 +80,8 @@ QRMKitReturnCode ReadNameTypeDescription(const Element& node, Entry& entry)
     }
     entry.SetComponentType(std::move(componentType));
 
-    if (VELXMLNode description = SingleChild(node, "Description")) {
-        VELXMLNode display = SingleChild(description, "Display");
+    if (XmlElement description = SingleChild(node, "Description")) {
+        XmlElement display = SingleChild(description, "Display");
         if (display.IsNull()) {
             return QRM_KIT_FAILURE;
         }
@@ -94,9 +95,9 @@ QRMKitReturnCode ReadNameTypeDescription(const Element& node, Entry& entry)
 
 // One "Brand" (exactly one) of "TargetSystems" or "SupportedSystems", with
 // at most one "Model", added to `systems`.
-QRMKitReturnCode ReadBrand(const VELXMLNode& systemsNode, QRMSupportedSystems& systems)
+QRMKitReturnCode ReadBrand(const XmlElement& systemsNode, QRMSupportedSystems& systems)
 {
-    VELXMLNode brandNode = SingleChild(systemsNode, "Brand");
+    XmlElement brandNode = SingleChild(systemsNode, "Brand");
     if (brandNode.IsNull()) {
         return QRM_KIT_SUCCESS;
     }
@@ -106,9 +107,9 @@ QRMKitReturnCode ReadBrand(const VELXMLNode& systemsNode, QRMSupportedSystems& s
         Failed(AddOptionalDisplay(brandNode, brand))) {
         return QRM_KIT_FAILURE;
     }
-    if (VELXMLNode modelNode = SingleChild(brandNode, "Model")) {
+    if (XmlElement modelNode = SingleChild(brandNode, "Model")) {
         QRMModel model;
-        if (Failed(model.SetSystemID(AttributeNumber(modelNode, "systemID", std::hex))) ||
+        if (Failed(model.SetSystemID(AttributeNumber(modelNode, "systemID", 16))) ||
             Failed(AddOptionalDisplay(modelNode, model))) {
             return QRM_KIT_FAILURE;
         }
@@ -121,26 +122,26 @@ QRMKitReturnCode ReadBrand(const VELXMLNode& systemsNode, QRMSupportedSystems& s
 template <class Entry>
 void ReadImportantInfo(const Element& node, Entry& entry)
 {
-    if (VELXMLNode infoNode = SingleChild(node, "ImportantInfo")) {
+    if (XmlElement infoNode = SingleChild(node, "ImportantInfo")) {
         QRMImportantInfo info;
         info.SetURL(AttributeOrEmpty(infoNode, "URL"));
         entry.SetImportantInfo(std::move(info));
     }
 }
 
-QRMKitReturnCode ReadDevice(const VELXMLNode& deviceNode, QRMDevice& device)
+QRMKitReturnCode ReadDevice(const XmlElement& deviceNode, QRMDevice& device)
 {
-    if (Failed(device.SetComponentID(AttributeNumber(deviceNode, "componentID", std::dec))) ||
-        Failed(device.SetEmbedded(AttributeNumber(deviceNode, "embedded", std::dec) != 0))) {
+    if (Failed(device.SetComponentID(AttributeNumber(deviceNode, "componentID", 10))) ||
+        Failed(device.SetEmbedded(AttributeNumber(deviceNode, "embedded", 10) != 0))) {
         return QRM_KIT_FAILURE;
     }
-    for (VELXMLNode pciNode = deviceNode.FirstChildElement("PCIInfo"); pciNode;
+    for (XmlElement pciNode = deviceNode.FirstChildElement("PCIInfo"); pciNode;
          pciNode = pciNode.NextSiblingElement("PCIInfo")) {
         QRMPCIInfo pci;
-        if (Failed(pci.SetDeviceID(AttributeNumber(pciNode, "deviceID", std::hex))) ||
-            Failed(pci.SetVendorID(AttributeNumber(pciNode, "vendorID", std::hex))) ||
-            Failed(pci.SetSubDeviceID(AttributeNumber(pciNode, "subDeviceID", std::hex))) ||
-            Failed(pci.SetSubVendorID(AttributeNumber(pciNode, "subVendorID", std::hex))) ||
+        if (Failed(pci.SetDeviceID(AttributeNumber(pciNode, "deviceID", 16))) ||
+            Failed(pci.SetVendorID(AttributeNumber(pciNode, "vendorID", 16))) ||
+            Failed(pci.SetSubDeviceID(AttributeNumber(pciNode, "subDeviceID", 16))) ||
+            Failed(pci.SetSubVendorID(AttributeNumber(pciNode, "subVendorID", 16))) ||
             Failed(device.AddPCIInfo(std::move(pci)))) {
             return QRM_KIT_FAILURE;
         }
@@ -148,7 +149,7 @@ QRMKitReturnCode ReadDevice(const VELXMLNode& deviceNode, QRMDevice& device)
     return AddOptionalDisplay(deviceNode, device);
 }
 
-QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& node, QRMOSArchitectureEnum& architecture,
+QRMKitReturnCode ReadOperatingSystem(const XmlElement& node, QRMOSArchitectureEnum& architecture,
                                      QRMOperatingSystem& os)
 {
     Element osNode(node);
@@ -174,13 +175,14 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
     // Built in place and handed over to the store, never copied.
     std::unique_ptr<QRMSoftwareBundle> entry(new QRMSoftwareBundle);
     QRMSoftwareBundle& bundle = *entry;
-    const Element element(*node);
+    const XmlElement root = XmlElement::Of(*node);
+    const Element element(root);
     QRMKitReturnCode result = ReadNameTypeDescription(element, bundle);
     if (result != QRM_KIT_SUCCESS) {
         return result;
     }
 
-    if (VELXMLNode targetSystems = SingleChild(element, "TargetSystems")) {
+    if (XmlElement targetSystems = SingleChild(element, "TargetSystems")) {
         QRMSupportedSystems systems;
         if (Failed(ReadBrand(targetSystems, systems))) {
             return QRM_KIT_FAILURE;
@@ -188,9 +190,9 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
         bundle.SetTargetSystems(std::move(systems));
     }
 
-    if (VELXMLNode targetOSes = SingleChild(element, "TargetOSes")) {
+    if (XmlElement targetOSes = SingleChild(element, "TargetOSes")) {
         QRMSupportedOperatingSystems oses;
-        if (VELXMLNode osNode = SingleChild(targetOSes, "OperatingSystem")) {
+        if (XmlElement osNode = SingleChild(targetOSes, "OperatingSystem")) {
             QRMOperatingSystem os;
             if (Failed(os.SetCode(AttributeOrEmpty(osNode, "osCode"))) ||
                 Failed(os.SetVendor(AttributeOrEmpty(osNode, "osVendor"))) ||
@@ -203,7 +205,7 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
         }
     }
 
-    if (VELXMLNode historyNode = SingleChild(element, "RevisionHistory")) {
+    if (XmlElement historyNode = SingleChild(element, "RevisionHistory")) {
         QRMRevisionHistory history;
         AddOptionalDisplay(historyNode, history);
         bundle.SetRevisionHistory(std::move(history));
@@ -211,11 +213,11 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
 
     ReadImportantInfo(element, bundle);
 
-    VELXMLNode contentsNode = SingleChild(element, "Contents");
+    XmlElement contentsNode = SingleChild(element, "Contents");
     if (contentsNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    for (VELXMLNode package = contentsNode.FirstChildElement(); package;
+    for (XmlElement package = contentsNode.FirstChildElement(); package;
          package = package.NextSiblingElement()) {
         QRMBundleContent content;
         if (Failed(content.SetPath(AttributeOrEmpty(package, "path")))) {
@@ -245,7 +247,8 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
     // Built in place and handed over to the store, never copied.
     std::unique_ptr<QRMSoftwareComponent> entry(new QRMSoftwareComponent);
     QRMSoftwareComponent& component = *entry;
-    const Element element(*node);
+    const XmlElement root = XmlElement::Of(*node);
+    const Element element(root);
     QRMKitReturnCode result = ReadNameTypeDescription(element, component);
     if (result != QRM_KIT_SUCCESS) {
         return result;
@@ -253,14 +256,14 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
 
     // The category text is the first child node of its "Display" (a CDATA
     // or text node's text, an element's name), not the Display's value.
-    VELXMLNode categoryNode = SingleChild(element, "Category");
+    XmlElement categoryNode = SingleChild(element, "Category");
     if (categoryNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
     QRMCategory category;
     category.SetCode(AttributeOrEmpty(categoryNode, "value"));
     VELString categoryText;
-    if (VELXMLNode display = SingleChild(categoryNode, "Display")) {
+    if (XmlElement display = SingleChild(categoryNode, "Display")) {
         categoryText = display.GetFirstChildNodeName();
         if (Failed(category.AddDisplayValue(AttributeOrEmpty(display, "lang"), categoryText))) {
             return QRM_KIT_FAILURE;
@@ -269,7 +272,7 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
     VELString categoryCode = category.GetCode();
     component.SetCategory(std::move(category));
 
-    if (VELXMLNode luNode = SingleChild(element, "LUCategory")) {
+    if (XmlElement luNode = SingleChild(element, "LUCategory")) {
         QRMLUCategory luCategory;
         luCategory.SetCode(AttributeOrEmpty(luNode, "value"));
         if (Failed(AddOptionalDisplay(luNode, luCategory))) {
@@ -278,11 +281,11 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
         component.SetLUCategory(std::move(luCategory));
     }
 
-    VELXMLNode devicesNode = SingleChild(element, "SupportedDevices");
+    XmlElement devicesNode = SingleChild(element, "SupportedDevices");
     if (devicesNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    for (VELXMLNode deviceNode = devicesNode.FirstChildElement(); deviceNode;
+    for (XmlElement deviceNode = devicesNode.FirstChildElement(); deviceNode;
          deviceNode = deviceNode.NextSiblingElement()) {
         QRMDevice device;
         if (Failed(ReadDevice(deviceNode, device))) {
@@ -291,19 +294,19 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
         component.AddDeviceSupport(std::move(device));
     }
 
-    if (VELXMLNode systemsNode = SingleChild(element, "SupportedSystems")) {
+    if (XmlElement systemsNode = SingleChild(element, "SupportedSystems")) {
         QRMSupportedSystems systems;
-        if (Failed(systems.SetDisplay(AttributeNumber(systemsNode, "display", std::dec) != 0)) ||
+        if (Failed(systems.SetDisplay(AttributeNumber(systemsNode, "display", 10) != 0)) ||
             Failed(ReadBrand(systemsNode, systems)) ||
             Failed(component.SetSupportedSystems(std::move(systems)))) {
             return QRM_KIT_FAILURE;
         }
     }
 
-    if (VELXMLNode osesNode = SingleChild(element, "SupportedOperatingSystems")) {
+    if (XmlElement osesNode = SingleChild(element, "SupportedOperatingSystems")) {
         QRMSupportedOperatingSystems oses;
         QRMOSArchitectureEnum architecture = QRM_OS_ARCH_X86;
-        for (VELXMLNode osNode = osesNode.FirstChildElement(); osNode;
+        for (XmlElement osNode = osesNode.FirstChildElement(); osNode;
              osNode = osNode.NextSiblingElement()) {
             QRMOperatingSystem os;
             if (Failed(ReadOperatingSystem(osNode, architecture, os))) {
@@ -318,7 +321,7 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
 
     QRMCriticality criticality;
     criticality.SetValue(QRM_CRITICALITY_UNSPECIFIED);
-    if (VELXMLNode criticalityNode = SingleChild(element, "Criticality")) {
+    if (XmlElement criticalityNode = SingleChild(element, "Criticality")) {
         QRMCriticalityValueEnum value = QRM_CRITICALITY_UNSPECIFIED;
         QRMCriticalityFromText(AttributeOrEmpty(criticalityNode, "value"), value);
         criticality.SetValue(value);
@@ -346,16 +349,17 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
 
 QRMKitReturnCode QRMKitAPI::ParseInventoryComponent(VELXMLNode*& node)
 {
+    const XmlElement element = XmlElement::Of(*node);
     QRMInventoryComponent component;
-    if (Failed(component.SetSchemaVersion(AttributeOrEmpty(*node, "schemaVersion"))) ||
-        Failed(component.SetReleaseID(AttributeOrEmpty(*node, "releaseID"))) ||
-        Failed(component.SetDateTime(TimeAttribute(*node, "dateTime"))) ||
-        Failed(component.SetVendorVersion(AttributeOrEmpty(*node, "vendorVersion"))) ||
-        Failed(component.SetReleaseDate(TimeAttribute(*node, "releaseDate"))) ||
-        Failed(component.SetMD5Hash(AttributeOrEmpty(*node, "hashMD5"))) ||
-        Failed(component.SetTolvarVersion(AttributeOrEmpty(*node, "tolvarVersion"))) ||
-        Failed(component.SetOSCode(AttributeOrEmpty(*node, "osCode"))) ||
-        Failed(component.SetPath(AttributeOrEmpty(*node, "path")))) {
+    if (Failed(component.SetSchemaVersion(AttributeOrEmpty(element, "schemaVersion"))) ||
+        Failed(component.SetReleaseID(AttributeOrEmpty(element, "releaseID"))) ||
+        Failed(component.SetDateTime(TimeAttribute(element, "dateTime"))) ||
+        Failed(component.SetVendorVersion(AttributeOrEmpty(element, "vendorVersion"))) ||
+        Failed(component.SetReleaseDate(TimeAttribute(element, "releaseDate"))) ||
+        Failed(component.SetMD5Hash(AttributeOrEmpty(element, "hashMD5"))) ||
+        Failed(component.SetTolvarVersion(AttributeOrEmpty(element, "tolvarVersion"))) ||
+        Failed(component.SetOSCode(AttributeOrEmpty(element, "osCode"))) ||
+        Failed(component.SetPath(AttributeOrEmpty(element, "path")))) {
         return QRM_KIT_FAILURE;
     }
     return mCatalogManifest.AddInventoryComponent(component);

@@ -32,6 +32,6 @@ QRMInventoryLanguageEnum QRMIInventory::GetLanguage() const { return mLanguage; 
 VELString QRMIInventory::GetSchemaVersion() const { return mSchemaVersion; }
 VELTime QRMIInventory::GetTimeStamp() const { return mTimeStamp; }
 
-const QRMOwnedList<QRMOperatingSystem>& QRMIInventory::OperatingSystems() const { return mOperatingSystems; }
-const QRMOwnedList<QRMISystem>& QRMIInventory::Systems() const { return mSystems; }
-const QRMOwnedList<QRMIDevice>& QRMIInventory::Devices() const { return mDevices; }
+const qrm::detail::OwnedList<QRMOperatingSystem>& QRMIInventory::OperatingSystems() const { return mOperatingSystems; }
+const qrm::detail::OwnedList<QRMISystem>& QRMIInventory::Systems() const { return mSystems; }
+const qrm::detail::OwnedList<QRMIDevice>& QRMIInventory::Devices() const { return mDevices; }

@@ -8,7 +8,7 @@
 #include "QRMISystem.h"
 #include "QRMKitTypes.h"
 #include "QRMOperatingSystem.h"
-#include "QRMOwnedList.h"
+#include "detail/QRMOwnedList.h"
 #include "VELString.h"
 #include "VELTime.h"
 
@@ -35,14 +35,14 @@ public:
     QRMInventoryLanguageEnum GetLanguage() const;
     VELString GetSchemaVersion() const;
     VELTime GetTimeStamp() const;
-    const QRMOwnedList<QRMOperatingSystem>& OperatingSystems() const;
-    const QRMOwnedList<QRMISystem>& Systems() const;
-    const QRMOwnedList<QRMIDevice>& Devices() const;
+    const qrm::detail::OwnedList<QRMOperatingSystem>& OperatingSystems() const;
+    const qrm::detail::OwnedList<QRMISystem>& Systems() const;
+    const qrm::detail::OwnedList<QRMIDevice>& Devices() const;
 
 private:
-    QRMOwnedList<QRMOperatingSystem> mOperatingSystems;
-    QRMOwnedList<QRMISystem> mSystems;
-    QRMOwnedList<QRMIDevice> mDevices;
+    qrm::detail::OwnedList<QRMOperatingSystem> mOperatingSystems;
+    qrm::detail::OwnedList<QRMISystem> mSystems;
+    qrm::detail::OwnedList<QRMIDevice> mDevices;
     QRMInventoryLanguageEnum mLanguage;
     VELString mSchemaVersion;
     VELTime mTimeStamp;

@@ -11,29 +11,25 @@
 
 #include <exception>
 #include <memory>
+#include <string_view>
 
+using qrm::AttributeNumber;
 using qrm::Failed;
+using qrm::ReadAttribute;
+using qrm::detail::XmlElement;
 
 namespace {
-
-// Reads an attribute into `value` (set to empty first); true when present.
-bool ReadAttribute(const VELXMLNode& node, const char* name, VELString& value)
-{
-    value = VELString();
-    return node.GetAttributeValue(name, value) == VEL_SUCCESS;
-}
 
 // Adds every direct "Display" child that has a "lang" to `holder`, in order.
 // Returns the first QRM_KIT_FAILURE of an add, else QRM_KIT_SUCCESS.
 template <class Holder>
-QRMKitReturnCode AddLanguageDisplays(const VELXMLNode& node, Holder& holder)
+QRMKitReturnCode AddLanguageDisplays(const XmlElement& node, Holder& holder)
 {
-    std::vector<VELXMLNode*> displays;
-    node.GetChildren("Display", displays);
     VELString language;
-    for (const VELXMLNode* display : displays) {
-        if (ReadAttribute(*display, "lang", language) &&
-            Failed(holder.AddDisplayValue(language, display->GetValue()))) {
+    for (XmlElement display = node.FirstChildElement("Display"); display;
+         display = display.NextSiblingElement("Display")) {
+        if (ReadAttribute(display, "lang", language) &&
+            Failed(holder.AddDisplayValue(language, display.GetValue()))) {
             return QRM_KIT_FAILURE;
         }
     }
@@ -42,7 +38,7 @@ QRMKitReturnCode AddLanguageDisplays(const VELXMLNode& node, Holder& holder)
 
 // Stores an optional text attribute through `set` when it is present.
 template <class Set>
-QRMKitReturnCode SetIfPresent(const VELXMLNode& node, const char* name, Set set)
+QRMKitReturnCode SetIfPresent(const XmlElement& node, const char* name, Set set)
 {
     VELString value;
     return ReadAttribute(node, name, value) ? set(value) : QRM_KIT_SUCCESS;
@@ -50,14 +46,12 @@ QRMKitReturnCode SetIfPresent(const VELXMLNode& node, const char* name, Set set)
 
 // Stores an optional numeric attribute through `set` when it is present.
 template <class Set>
-QRMKitReturnCode SetNumberIfPresent(const VELXMLNode& node, const char* name,
-                                    std::ios_base& (*base)(std::ios_base&), Set set)
+QRMKitReturnCode SetNumberIfPresent(const XmlElement& node, const char* name, unsigned int base, Set set)
 {
-    VELString value;
-    return ReadAttribute(node, name, value) ? set(value.GetIntValue(base)) : QRM_KIT_SUCCESS;
+    return node.GetAttributeText(name) != nullptr ? set(AttributeNumber(node, name, base)) : QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& node, QRMIInventory& inventory)
+QRMKitReturnCode ReadOperatingSystem(const XmlElement& node, QRMIInventory& inventory)
 {
     QRMOperatingSystem os;
     VELString text;
@@ -85,7 +79,7 @@ QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& node, QRMIInventory& inve
             return QRM_KIT_FAILURE;
         }
     }
-    if (Failed(SetNumberIfPresent(node, "suiteMask", std::dec,
+    if (Failed(SetNumberIfPresent(node, "suiteMask", 10,
                                   [&os](unsigned int mask) { return os.SetSuiteMask(mask); })) ||
         Failed(AddLanguageDisplays(node, os)) || Failed(inventory.AddOperatingSystem(os))) {
         return QRM_KIT_FAILURE;
@@ -93,7 +87,7 @@ QRMKitReturnCode ReadOperatingSystem(const VELXMLNode& node, QRMIInventory& inve
     return QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode ReadSystem(const VELXMLNode& node, QRMIInventory& inventory)
+QRMKitReturnCode ReadSystem(const XmlElement& node, QRMIInventory& inventory)
 {
     QRMISystem system;
     if (Failed(AddLanguageDisplays(node, system))) {
@@ -120,7 +114,7 @@ QRMKitReturnCode ReadSystem(const VELXMLNode& node, QRMIInventory& inventory)
 // adds a copy of it to the device. Whatever this Application does not set is
 // carried over from the one before it: kept for compatibility, callers rely
 // on it. `componentType` carries over for the whole inventory read.
-void ReadApplication(const VELXMLNode& node, QRMComponentTypeValueEnum& componentType,
+void ReadApplication(const XmlElement& node, QRMComponentTypeValueEnum& componentType,
                      QRMIApplication& application, QRMIDevice& device)
 {
     AddLanguageDisplays(node, application);
@@ -150,37 +144,36 @@ void ReadApplication(const VELXMLNode& node, QRMComponentTypeValueEnum& componen
 
 // QRM_KIT_FAILURE when the device is dropped (no "display", or a failing
 // setter); otherwise the result of storing it.
-QRMKitReturnCode ReadDevice(const VELXMLNode& node, QRMComponentTypeValueEnum& componentType,
+QRMKitReturnCode ReadDevice(const XmlElement& node, QRMComponentTypeValueEnum& componentType,
                             QRMIInventory& inventory)
 {
     QRMIDevice device;
     AddLanguageDisplays(node, device);
     QRMIApplication application;
-    std::vector<VELXMLNode*> applications;
-    node.GetChildren("Application", applications);
-    for (const VELXMLNode* applicationNode : applications) {
-        ReadApplication(*applicationNode, componentType, application, device);
+    for (XmlElement applicationNode = node.FirstChildElement("Application"); applicationNode;
+         applicationNode = applicationNode.NextSiblingElement("Application")) {
+        ReadApplication(applicationNode, componentType, application, device);
     }
 
     auto asInt = [](unsigned int value) { return static_cast<int>(value); };
     VELString display;
-    if (Failed(SetNumberIfPresent(node, "bus", std::dec, [&](unsigned int v) { return device.SetBus(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "device", std::dec,
+    if (Failed(SetNumberIfPresent(node, "bus", 10, [&](unsigned int v) { return device.SetBus(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "device", 10,
                                   [&](unsigned int v) { return device.SetDevice(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "function", std::dec,
+        Failed(SetNumberIfPresent(node, "function", 10,
                                   [&](unsigned int v) { return device.SetFunction(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "componentID", std::dec,
+        Failed(SetNumberIfPresent(node, "componentID", 10,
                                   [&](unsigned int v) { return device.SetComponentID(v); })) ||
         !ReadAttribute(node, "display", display) || Failed(device.SetDisplay(display)) ||
-        Failed(SetNumberIfPresent(node, "vendorID", std::hex,
+        Failed(SetNumberIfPresent(node, "vendorID", 16,
                                   [&](unsigned int v) { return device.SetVendorID(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "deviceID", std::hex,
+        Failed(SetNumberIfPresent(node, "deviceID", 16,
                                   [&](unsigned int v) { return device.SetDeviceID(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "subDeviceID", std::hex,
+        Failed(SetNumberIfPresent(node, "subDeviceID", 16,
                                   [&](unsigned int v) { return device.SetSubDeviceID(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "subVendorID", std::hex,
+        Failed(SetNumberIfPresent(node, "subVendorID", 16,
                                   [&](unsigned int v) { return device.SetSubVendorID(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "componentInstance", std::dec,
+        Failed(SetNumberIfPresent(node, "componentInstance", 10,
                                   [&](unsigned int v) { return device.SetComponentInstance(asInt(v)); }))) {
         return QRM_KIT_FAILURE;
     }
@@ -192,50 +185,47 @@ QRMKitReturnCode ReadDevice(const VELXMLNode& node, QRMComponentTypeValueEnum& c
 QRMKitReturnCode QRMKitAPI::ParseInventory(const VELFile& file)
 try {
     std::unique_ptr<VELXMLDocument> document;
-    VELXMLNode* root = nullptr;
-    QRMKitReturnCode opened = qrm::OpenDocument(file, document, root);
+    VELXMLNode* rootNode = nullptr;
+    QRMKitReturnCode opened = qrm::OpenDocument(file, document, rootNode);
     if (opened != QRM_KIT_SUCCESS) {
         return opened;
     }
+    const XmlElement root = XmlElement::Of(*rootNode);
 
     VELString text;
-    if (!ReadAttribute(*root, "lang", text)) {
+    if (!ReadAttribute(root, "lang", text)) {
         return QRM_KIT_FAILURE;
     }
     QRMInventoryLanguageEnum language = QRM_LANG_EN;
     QRMInventoryLanguageFromText(text, language);
     if (Failed(mInventory.SetLanguage(language)) ||
-        Failed(SetIfPresent(*root, "schemaVersion",
+        Failed(SetIfPresent(root, "schemaVersion",
                             [](const VELString& v) { return mInventory.SetSchemaVersion(v); })) ||
-        Failed(SetNumberIfPresent(*root, "timeStamp", std::dec,
+        Failed(SetNumberIfPresent(root, "timeStamp", 10,
                                   [](unsigned int v) { return mInventory.SetTimeStamp(VELTime(v)); }))) {
         return QRM_KIT_FAILURE;
     }
 
-    std::vector<VELXMLNode*> children;
-    if (root->GetChildren(children) == VEL_FAILURE) {
-        return QRM_KIT_FAILURE;
-    }
     // The application type carries over from one Application to the next
     // for the whole read.
     QRMComponentTypeValueEnum componentType = QRM_COMPONENT_SBDL;
     QRMKitReturnCode status = QRM_KIT_SUCCESS;
-    for (const VELXMLNode* child : children) {
-        VELString name = child->GetName();
-        if ("OperatingSystem" == name) {
-            status = ReadOperatingSystem(*child, mInventory);
+    for (XmlElement child = root.FirstChildElement(); child; child = child.NextSiblingElement()) {
+        const std::string_view name = child.Name();
+        if (name == "OperatingSystem") {
+            status = ReadOperatingSystem(child, mInventory);
             if (Failed(status)) {
                 return QRM_KIT_FAILURE;
             }
-        } else if ("System" == name) {
-            status = ReadSystem(*child, mInventory);
+        } else if (name == "System") {
+            status = ReadSystem(child, mInventory);
             if (Failed(status)) {
                 return QRM_KIT_FAILURE;
             }
-        } else if ("Device" == name) {
+        } else if (name == "Device") {
             // A dropped device is remembered as the last status: when no
             // later entry succeeds, the read reports QRM_KIT_FAILURE.
-            status = ReadDevice(*child, componentType, mInventory);
+            status = ReadDevice(child, componentType, mInventory);
         }
     }
     document.reset();
@@ -262,7 +252,7 @@ QRMKitReturnCode QRMKitAPI::GetInventory(std::vector<QRMIDevice*>& devices) cons
 
 unsigned int QRMKitAPI::GetSystemIDFromInventory() const
 {
-    const QRMOwnedList<QRMISystem>& systems = mInventory.Systems();
+    const qrm::detail::OwnedList<QRMISystem>& systems = mInventory.Systems();
     return systems.Size() == 1 ? systems.At(0)->GetSystemID() : 0;
 }
 

@@ -3,11 +3,15 @@
 #include "api/QRMIInventory.h"
 #include "api/QRMManifest.h"
 #include "api/QRMXMLRead.h"
+#include "base/VELXMLElement.h"
 
 #include <exception>
 #include <iostream>
 #include <memory>
 #include <mutex>
+#include <string_view>
+
+using qrm::detail::XmlElement;
 
 // The two stores are constructed when the library is loaded, before any call.
 QRMKitAPI* QRMKitAPI::mAPI = nullptr;
@@ -87,43 +91,45 @@ try {
         return opened;
     }
 
-    if (mCatalogManifest.SetBaseLocation(qrm::AttributeOrEmpty(*root, "baseLocation")) ==
+    const XmlElement rootElement = XmlElement::Of(*root);
+    if (mCatalogManifest.SetBaseLocation(qrm::AttributeOrEmpty(rootElement, "baseLocation")) ==
         QRM_KIT_FAILURE) {
         return QRM_KIT_FAILURE;
     }
-    VELTime dateTime(qrm::AttributeOrEmpty(*root, "dateTime").GetIntValue(std::dec));
+    VELTime dateTime(qrm::AttributeNumber(rootElement, "dateTime", 10));
     if (mCatalogManifest.SetDateTime(dateTime) == QRM_KIT_FAILURE) {
         return QRM_KIT_FAILURE;
     }
-    if (mCatalogManifest.SetReleaseID(qrm::AttributeOrEmpty(*root, "releaseID")) ==
+    if (mCatalogManifest.SetReleaseID(qrm::AttributeOrEmpty(rootElement, "releaseID")) ==
         QRM_KIT_FAILURE) {
         return QRM_KIT_FAILURE;
     }
-    if (mCatalogManifest.SetVersion(qrm::AttributeOrEmpty(*root, "version")) == QRM_KIT_FAILURE) {
+    if (mCatalogManifest.SetVersion(qrm::AttributeOrEmpty(rootElement, "version")) == QRM_KIT_FAILURE) {
         return QRM_KIT_FAILURE;
     }
 
-    std::vector<VELXMLNode*> children;
-    if (root->GetChildren(children) == VEL_FAILURE) {
-        return QRM_KIT_FAILURE;
-    }
-    for (VELXMLNode* child : children) {
-        VELString name = child->GetName();
-        if ("SoftwareBundle" == name) {
+    XmlElement next = rootElement.FirstChildElement();
+    while (next) {
+        const XmlElement element = next;
+        next = element.NextSiblingElement();
+        VELXMLNode node = XmlElement::NodeOf(element, document.get());
+        VELXMLNode* child = &node;
+        const std::string_view name = element.Name();
+        if (name == "SoftwareBundle") {
             if (ParseSoftwareBundle(child) == QRM_KIT_ELEMENT_MISSING) {
                 return QRM_KIT_ELEMENT_MISSING;
             }
-        } else if ("SoftwareComponent" == name) {
+        } else if (name == "SoftwareComponent") {
             if (ParseSoftwareComponent(child) == QRM_KIT_ELEMENT_MISSING) {
                 return QRM_KIT_ELEMENT_MISSING;
             }
-        } else if ("InventoryComponent" == name) {
+        } else if (name == "InventoryComponent") {
             ParseInventoryComponent(child);
         }
         // Read: its memory goes back for the entries still to come, so a
         // large catalog never needs its whole document and its whole store
         // at once.
-        child->Discard();
+        XmlElement::Discard(node);
     }
     document.reset();
     mCatalogManifest.TrustFileNames();
@@ -177,7 +183,7 @@ const QRMInventoryComponent* QRMKitAPI::GetInventoryComponent(QRMOSArchitectureE
         ReportCatalogNotInitialized();
         return nullptr;
     }
-    const QRMOwnedList<QRMInventoryComponent>& components = mCatalogManifest.InventoryComponents();
+    const qrm::detail::OwnedList<QRMInventoryComponent>& components = mCatalogManifest.InventoryComponents();
     std::size_t index = components.IndexOf(
         [&osCode](const QRMInventoryComponent& component) { return component.GetOSCode() == osCode; });
     if (index == components.Size()) {

@@ -127,17 +127,17 @@ void QRMManifest::GetCategoryAcronymMap(TextMap& acronyms) const
     CopyInto(mCategoryAcronyms, acronyms);
 }
 
-const QRMOwnedList<QRMSoftwareComponent>& QRMManifest::SoftwareComponents() const
+const qrm::detail::OwnedList<QRMSoftwareComponent>& QRMManifest::SoftwareComponents() const
 {
     return mSoftwareComponents;
 }
 
-const QRMOwnedList<QRMSoftwareBundle>& QRMManifest::SoftwareBundles() const
+const qrm::detail::OwnedList<QRMSoftwareBundle>& QRMManifest::SoftwareBundles() const
 {
     return mSoftwareBundles;
 }
 
-const QRMOwnedList<QRMInventoryComponent>& QRMManifest::InventoryComponents() const
+const qrm::detail::OwnedList<QRMInventoryComponent>& QRMManifest::InventoryComponents() const
 {
     return mInventoryComponents;
 }

@@ -6,7 +6,7 @@
 
 #include "QRMInventoryComponent.h"
 #include "QRMKitTypes.h"
-#include "QRMOwnedList.h"
+#include "detail/QRMOwnedList.h"
 #include "QRMSoftwareBundle.h"
 #include "QRMSoftwareComponent.h"
 #include "VELString.h"
@@ -75,7 +75,7 @@ public:
     void GetCategoryValueMap(TextMap& values) const;
     void GetCategoryAcronymMap(TextMap& acronyms) const;
 
-    const QRMOwnedList<QRMSoftwareComponent>& SoftwareComponents() const;
+    const qrm::detail::OwnedList<QRMSoftwareComponent>& SoftwareComponents() const;
 
     // The stored components whose path has the file name `fileName`, in
     // catalog order, appended to `components`: true when the index of file
@@ -89,13 +89,13 @@ public:
     void TrustFileNames();
     // Called whenever a pointer to a stored component is handed out.
     void DistrustFileNames() const;
-    const QRMOwnedList<QRMSoftwareBundle>& SoftwareBundles() const;
-    const QRMOwnedList<QRMInventoryComponent>& InventoryComponents() const;
+    const qrm::detail::OwnedList<QRMSoftwareBundle>& SoftwareBundles() const;
+    const qrm::detail::OwnedList<QRMInventoryComponent>& InventoryComponents() const;
 
 private:
-    QRMOwnedList<QRMSoftwareComponent> mSoftwareComponents;
-    QRMOwnedList<QRMSoftwareBundle> mSoftwareBundles;
-    QRMOwnedList<QRMInventoryComponent> mInventoryComponents;
+    qrm::detail::OwnedList<QRMSoftwareComponent> mSoftwareComponents;
+    qrm::detail::OwnedList<QRMSoftwareBundle> mSoftwareBundles;
+    qrm::detail::OwnedList<QRMInventoryComponent> mInventoryComponents;
     // Every stored component under (32 bits of) the hash of its file name
     // and its place in the catalog; in catalog order until TrustFileNames
     // sorts it by hash, then place.
@@ -109,7 +109,7 @@ private:
     TextMap mCategoryValues;
     TextMap mCategoryAcronyms;
     // A second component list that nothing fills; Clear releases it too.
-    QRMOwnedList<QRMSoftwareComponent> mSpareComponents;
+    qrm::detail::OwnedList<QRMSoftwareComponent> mSpareComponents;
     VELString mBaseLocation;
     VELTime mDateTime;
     VELString mReleaseID;

@@ -3,6 +3,9 @@
 // digits compare numerically without ever being parsed as numbers.
 #include "QRMKitAPI.h"
 
+#include "api/QRMVersion.h"
+#include "base/VELNumber.h"
+
 #include <algorithm>
 #include <string>
 
@@ -13,7 +16,7 @@ namespace {
 bool FitsWorkBuffer(const VELString& text)
 {
     std::u16string_view units = text.GetUTF16View();
-    return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x80; });
+    return vel::IsASCII(units.data(), units.size());
 }
 
 bool IsSeparator(char16_t unit) { return unit == u'.' || unit == u'-' || unit == u'_'; }
@@ -86,6 +89,11 @@ int CompareFields(std::u16string_view a, std::size_t aStart, std::size_t aLength
 }  // namespace
 
 int QRMKitAPI::MakeEqualLength(VELString& first, VELString& second) const
+{
+    return qrm::PadToSameFieldCount(first, second);
+}
+
+int qrm::PadToSameFieldCount(VELString& first, VELString& second)
 {
     if (!FitsWorkBuffer(first) || !FitsWorkBuffer(second)) {
         return -1;

@@ -37,23 +37,14 @@ VELString TextOrEmpty(const char* text)
 
 // Read straight from the document's bytes: the number is the same as that
 // of the converted text, without building the text.
-unsigned int NumberOf(const char* text, std::ios_base& (*base)(std::ios_base&))
+unsigned int NumberOf(const char* text, unsigned int base)
 {
-    if (text == nullptr) {
-        text = "";
-    }
-    if (base == static_cast<std::ios_base& (*)(std::ios_base&)>(std::hex)) {
-        return vel::ReadUnsigned(text, std::strlen(text), 16);
-    }
-    if (base == static_cast<std::ios_base& (*)(std::ios_base&)>(std::dec)) {
-        return vel::ReadUnsigned(text, std::strlen(text), 10);
-    }
-    return TextOrEmpty(text).GetIntValue(base);
+    return text != nullptr ? vel::ReadUnsigned(text, std::strlen(text), base) : 0;
 }
 
 }  // namespace
 
-Element::Element(const VELXMLNode& node) : mNode(node)
+Element::Element(const XmlElement& node) : mNode(node)
 {
     mAttributeCount = node.GetAttributeTexts(mAttributeNames, mAttributeTexts, kCapacity);
     mChildCount = node.GetChildElements(mChildNames, mChildren, kCapacity);
@@ -72,16 +63,16 @@ const char* Element::Text(const char* name) const
     return nullptr;
 }
 
-VELXMLNode Element::OnlyChild(const char* name) const
+XmlElement Element::OnlyChild(const char* name) const
 {
     if (mChildCount > kCapacity) {
         return mNode.GetOnlyChild(name);
     }
-    VELXMLNode found;
+    XmlElement found;
     for (std::size_t i = 0; i < mChildCount; ++i) {
         if (SameName(mChildNames[i], name)) {
             if (found) {
-                return VELXMLNode();
+                return XmlElement();
             }
             found = mChildren[i];
         }
@@ -89,13 +80,20 @@ VELXMLNode Element::OnlyChild(const char* name) const
     return found;
 }
 
-VELXMLNode SingleChild(const VELXMLNode& node, const char* name) { return node.GetOnlyChild(name); }
+XmlElement SingleChild(const XmlElement& node, const char* name) { return node.GetOnlyChild(name); }
 
-VELXMLNode SingleChild(const Element& element, const char* name) { return element.OnlyChild(name); }
+XmlElement SingleChild(const Element& element, const char* name) { return element.OnlyChild(name); }
 
-VELString AttributeOrEmpty(const VELXMLNode& node, const char* name)
+VELString AttributeOrEmpty(const XmlElement& node, const char* name)
 {
     return TextOrEmpty(node.GetAttributeText(name));
+}
+
+bool ReadAttribute(const XmlElement& node, const char* name, VELString& value)
+{
+    const char* text = node.GetAttributeText(name);
+    value = TextOrEmpty(text);
+    return text != nullptr;
 }
 
 VELString AttributeOrEmpty(const Element& element, const char* name)
@@ -103,14 +101,12 @@ VELString AttributeOrEmpty(const Element& element, const char* name)
     return TextOrEmpty(element.Text(name));
 }
 
-unsigned int AttributeNumber(const VELXMLNode& node, const char* name,
-                             std::ios_base& (*base)(std::ios_base&))
+unsigned int AttributeNumber(const XmlElement& node, const char* name, unsigned int base)
 {
     return NumberOf(node.GetAttributeText(name), base);
 }
 
-unsigned int AttributeNumber(const Element& element, const char* name,
-                             std::ios_base& (*base)(std::ios_base&))
+unsigned int AttributeNumber(const Element& element, const char* name, unsigned int base)
 {
     return NumberOf(element.Text(name), base);
 }

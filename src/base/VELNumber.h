@@ -1,14 +1,41 @@
-// Reading unsigned numbers out of text, the way a standard stream extracts
-// an unsigned int, shared by VELString and the document readers.
+// Scanning text the same way whatever its form (UTF-16 code units or UTF-8
+// bytes): the ASCII check, and reading unsigned numbers the way a standard
+// stream extracts an unsigned int. Shared by VELString, the version
+// comparison and the document readers.
 #ifndef VEL_NUMBER_H
 #define VEL_NUMBER_H
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 
 namespace vel {
 
 inline unsigned int CodeOf(char unit) { return static_cast<unsigned char>(unit); }
 inline unsigned int CodeOf(char16_t unit) { return unit; }
+
+// True when every unit is ASCII (below 0x80). Bytes are checked eight at a
+// time: this runs on every text a document holds.
+template <class Unit>
+bool IsASCII(const Unit* units, std::size_t length)
+{
+    std::size_t i = 0;
+    if constexpr (sizeof(Unit) == 1) {
+        for (; i + 8 <= length; i += 8) {
+            std::uint64_t word;
+            std::memcpy(&word, units + i, sizeof word);
+            if ((word & 0x8080808080808080ull) != 0) {
+                return false;
+            }
+        }
+    }
+    for (; i < length; ++i) {
+        if (CodeOf(units[i]) >= 0x80) {
+            return false;
+        }
+    }
+    return true;
+}
 
 inline bool IsStreamSpace(unsigned int unit)
 {

@@ -17,25 +17,6 @@
 
 namespace {
 
-// True when no byte is outside ASCII; eight bytes at a time.
-bool IsASCII(const char* bytes, std::size_t length)
-{
-    std::size_t i = 0;
-    for (; i + 8 <= length; i += 8) {
-        std::uint64_t word;
-        std::memcpy(&word, bytes + i, sizeof word);
-        if ((word & 0x8080808080808080ull) != 0) {
-            return false;
-        }
-    }
-    for (; i < length; ++i) {
-        if (static_cast<unsigned char>(bytes[i]) >= 0x80) {
-            return false;
-        }
-    }
-    return true;
-}
-
 // For text that is not plain ASCII (FromUTF8 copies that directly).
 std::u16string DecodeUTF8(const char* bytes, std::size_t length)
 {
@@ -53,14 +34,7 @@ bool IsLowSurrogate(char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
 std::string EncodeUTF8(std::u16string_view units)
 {
-    bool ascii = true;
-    for (char16_t unit : units) {
-        if (unit >= 0x80) {
-            ascii = false;
-            break;
-        }
-    }
-    if (ascii) {
+    if (vel::IsASCII(units.data(), units.size())) {
         return std::string(units.begin(), units.end());
     }
     // Unpaired surrogates cannot be encoded: they become U+FFFD.
@@ -150,7 +124,7 @@ VELString VELString::FromUTF8(const char* bytes, std::size_t length)
     if (bytes == nullptr || length == 0) {
         return text;
     }
-    if (IsASCII(bytes, length)) {
+    if (vel::IsASCII(bytes, length)) {
         char16_t* units = text.Reset(length);
         for (std::size_t i = 0; i < length; ++i) {
             units[i] = static_cast<unsigned char>(bytes[i]);

@@ -1,5 +1,7 @@
 #include "VELXML.h"
 
+#include "base/VELXMLElement.h"
+
 #include <pugixml.hpp>
 
 #include <cstdio>
@@ -15,42 +17,18 @@ struct VELXMLDocument::Impl {
     pugi::xml_document document;
 };
 
-namespace {
+using qrm::detail::XmlElement;
 
-VELString FromPugi(const pugi::char_t* text)
-{
-    return VELString::FromUTF8(text, std::strlen(text));
-}
-
-pugi::xml_node Node(pugi::xml_node_struct* node) { return pugi::xml_node(node); }
-
-}  // namespace
-
-VELXMLNode::VELXMLNode(pugi::xml_node_struct* node, VELXMLDocument* document)
+VELXMLNode::VELXMLNode(qrm::detail::XmlHandle* node, VELXMLDocument* document)
     : mNode(node), mDocument(document)
 {
 }
 
-VELString VELXMLNode::GetName() const { return FromPugi(Node(mNode).name()); }
+VELString VELXMLNode::GetName() const { return XmlElement::Of(*this).GetName(); }
 
-VELString VELXMLNode::GetValue() const { return FromPugi(Node(mNode).child_value()); }
+VELString VELXMLNode::GetValue() const { return XmlElement::Of(*this).GetValue(); }
 
-VELString VELXMLNode::GetFirstChildNodeName() const
-{
-    pugi::xml_node child = Node(mNode).first_child();
-    if (!child) {
-        return VELString();
-    }
-    switch (child.type()) {
-    case pugi::node_pcdata:
-    case pugi::node_cdata:
-        return FromPugi(child.value());
-    case pugi::node_element:
-        return FromPugi(child.name());
-    default:
-        return VELString();
-    }
-}
+VELString VELXMLNode::GetFirstChildNodeName() const { return XmlElement::Of(*this).GetFirstChildNodeName(); }
 
 VELErrorCodeEnum VELXMLNode::GetAttributeValue(const VELString& name, VELString& value) const
 {
@@ -59,52 +37,7 @@ VELErrorCodeEnum VELXMLNode::GetAttributeValue(const VELString& name, VELString&
 
 VELErrorCodeEnum VELXMLNode::GetAttributeValue(const char* name, VELString& value) const
 {
-    const char* text = GetAttributeText(name);
-    if (text == nullptr) {
-        return VEL_FAILURE;
-    }
-    value = FromPugi(text);
-    return VEL_SUCCESS;
-}
-
-const char* VELXMLNode::GetAttributeText(const char* name) const
-{
-    if (mNode == nullptr || name == nullptr) {
-        return nullptr;
-    }
-    pugi::xml_attribute attribute = Node(mNode).attribute(name);
-    return attribute ? attribute.value() : nullptr;
-}
-
-std::size_t VELXMLNode::GetAttributeTexts(const char** names, const char** texts,
-                                          std::size_t capacity) const
-{
-    std::size_t count = 0;
-    for (pugi::xml_attribute attribute = Node(mNode).first_attribute(); attribute;
-         attribute = attribute.next_attribute(), ++count) {
-        if (count < capacity) {
-            names[count] = attribute.name();
-            texts[count] = attribute.value();
-        }
-    }
-    return count;
-}
-
-std::size_t VELXMLNode::GetChildElements(const char** names, VELXMLNode* children,
-                                         std::size_t capacity) const
-{
-    std::size_t count = 0;
-    for (pugi::xml_node child = Node(mNode).first_child(); child; child = child.next_sibling()) {
-        if (child.type() != pugi::node_element) {
-            continue;
-        }
-        if (count < capacity) {
-            names[count] = child.name();
-            children[count] = VELXMLNode(child.internal_object(), mDocument);
-        }
-        ++count;
-    }
-    return count;
+    return XmlElement::Of(*this).GetAttributeValue(name, value) ? VEL_SUCCESS : VEL_FAILURE;
 }
 
 VELErrorCodeEnum VELXMLNode::GetChildren(std::vector<VELXMLNode*>& children) const
@@ -112,16 +45,14 @@ VELErrorCodeEnum VELXMLNode::GetChildren(std::vector<VELXMLNode*>& children) con
     if (mNode == nullptr || mDocument == nullptr) {
         return VEL_FAILURE;
     }
-    for (pugi::xml_node child = Node(mNode).first_child(); child; child = child.next_sibling()) {
-        if (child.type() == pugi::node_element) {
-            children.push_back(mDocument->Wrap(child.internal_object()));
-        }
+    for (XmlElement child = XmlElement::Of(*this).FirstChildElement(); child;
+         child = child.NextSiblingElement()) {
+        children.push_back(mDocument->Wrap(XmlElement::NodeOf(child, mDocument)));
     }
     return VEL_SUCCESS;
 }
 
-VELErrorCodeEnum VELXMLNode::GetChildren(const VELString& name,
-                                         std::vector<VELXMLNode*>& children) const
+VELErrorCodeEnum VELXMLNode::GetChildren(const VELString& name, std::vector<VELXMLNode*>& children) const
 {
     return GetChildren(name.GetUTF8String().c_str(), children);
 }
@@ -131,104 +62,11 @@ VELErrorCodeEnum VELXMLNode::GetChildren(const char* name, std::vector<VELXMLNod
     if (mNode == nullptr || mDocument == nullptr || name == nullptr) {
         return VEL_FAILURE;
     }
-    for (pugi::xml_node child = Node(mNode).child(name); child; child = child.next_sibling(name)) {
-        children.push_back(mDocument->Wrap(child.internal_object()));
+    for (XmlElement child = XmlElement::Of(*this).FirstChildElement(name); child;
+         child = child.NextSiblingElement(name)) {
+        children.push_back(mDocument->Wrap(XmlElement::NodeOf(child, mDocument)));
     }
     return VEL_SUCCESS;
-}
-
-namespace {
-
-// The first element among `node` and its following siblings.
-pugi::xml_node ElementFrom(pugi::xml_node node)
-{
-    while (node && node.type() != pugi::node_element) {
-        node = node.next_sibling();
-    }
-    return node;
-}
-
-}  // namespace
-
-VELXMLNode VELXMLNode::FirstChildElement() const
-{
-    return VELXMLNode(ElementFrom(Node(mNode).first_child()).internal_object(), mDocument);
-}
-
-// Only elements carry names in the documents the parser builds, so the
-// parser's own named lookups find elements.
-VELXMLNode VELXMLNode::FirstChildElement(const char* name) const
-{
-    if (name == nullptr) {
-        return VELXMLNode(nullptr, mDocument);
-    }
-    return VELXMLNode(Node(mNode).child(name).internal_object(), mDocument);
-}
-
-VELXMLNode VELXMLNode::NextSiblingElement() const
-{
-    return VELXMLNode(ElementFrom(Node(mNode).next_sibling()).internal_object(), mDocument);
-}
-
-VELXMLNode VELXMLNode::NextSiblingElement(const char* name) const
-{
-    if (name == nullptr) {
-        return VELXMLNode(nullptr, mDocument);
-    }
-    return VELXMLNode(Node(mNode).next_sibling(name).internal_object(), mDocument);
-}
-
-VELXMLNode VELXMLNode::GetOnlyChild(const char* name) const
-{
-    VELXMLNode first = FirstChildElement(name);
-    if (first.IsNull() || !first.NextSiblingElement(name).IsNull()) {
-        return VELXMLNode(nullptr, mDocument);
-    }
-    return first;
-}
-
-void VELXMLNode::Discard()
-{
-    pugi::xml_node top = Node(mNode);
-    pugi::xml_node parent = top.parent();
-    if (!top || !parent || parent.type() == pugi::node_document) {
-        return;
-    }
-    // The parser frees a subtree recursively. A hostile document may nest
-    // elements very deeply, so a deep subtree is taken apart from its
-    // leaves upwards instead, one node at a time.
-    const int shallow = 64;
-    bool deep = false;
-    int depth = 0;
-    for (pugi::xml_node node = top.first_child(); node && !deep;) {
-        if (node.first_child()) {
-            node = node.first_child();
-            deep = ++depth >= shallow;
-            continue;
-        }
-        while (node != top && !node.next_sibling()) {
-            node = node.parent();
-            --depth;
-        }
-        node = node == top ? pugi::xml_node() : node.next_sibling();
-    }
-    if (deep) {
-        pugi::xml_node node = top;
-        for (;;) {
-            if (pugi::xml_node last = node.last_child()) {
-                node = last;
-                continue;
-            }
-            if (node == top) {
-                break;
-            }
-            pugi::xml_node up = node.parent();
-            up.remove_child(node);
-            node = up;
-        }
-    }
-    parent.remove_child(top);
-    mNode = nullptr;
 }
 
 VELXMLDocument::VELXMLDocument() : mImpl(new Impl) {}
@@ -237,16 +75,17 @@ VELXMLDocument::~VELXMLDocument() = default;
 
 VELXMLNode* VELXMLDocument::GetRoot() const
 {
-    pugi::xml_node root = mImpl->document.document_element();
+    XmlElement root(mImpl->document.document_element());
     if (!root) {
         return nullptr;
     }
-    return const_cast<VELXMLDocument*>(this)->Wrap(root.internal_object());
+    VELXMLDocument* self = const_cast<VELXMLDocument*>(this);
+    return self->Wrap(XmlElement::NodeOf(root, self));
 }
 
-VELXMLNode* VELXMLDocument::Wrap(pugi::xml_node_struct* node)
+VELXMLNode* VELXMLDocument::Wrap(const VELXMLNode& node)
 {
-    mNodes.emplace_back(node, this);
+    mNodes.push_back(node);
     return &mNodes.back();
 }
 

@@ -1,13 +1,14 @@
 #include "QRMDevice.h"
 
+#include "model/QRMDisplayValues.h"
 #include "model/QRMStore.h"
 
 struct QRMDevice::Records {
-    QRMOwnedList<QRMPnPInfo> pnpInfo;
-    QRMOwnedList<QRMSubComponent> subComponents;
-    QRMOwnedList<QRMDependency> dependencies;
-    QRMOwnedList<QRMSoftDependency> softDependencies;
-    QRMOwnedList<QRMDeviceApplicability> applicability;
+    qrm::detail::OwnedList<QRMPnPInfo> pnpInfo;
+    qrm::detail::OwnedList<QRMSubComponent> subComponents;
+    qrm::detail::OwnedList<QRMDependency> dependencies;
+    qrm::detail::OwnedList<QRMSoftDependency> softDependencies;
+    qrm::detail::OwnedList<QRMDeviceApplicability> applicability;
     QRMRollbackInformation rollbackInformation;
 };
 
@@ -17,6 +18,8 @@ QRMDevice& QRMDevice::operator=(const QRMDevice& other) = default;
 QRMDevice::QRMDevice(QRMDevice&& other) = default;
 QRMDevice& QRMDevice::operator=(QRMDevice&& other) = default;
 QRMDevice::~QRMDevice() = default;
+
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMDevice, mTexts)
 
 unsigned long long QRMDevice::GetComponentID() const { return mComponentID; }
 QRMKitReturnCode QRMDevice::SetComponentID(const unsigned long long& componentID)
@@ -96,7 +99,7 @@ bool QRMDevice::operator==(const QRMDevice& other) const
     return mComponentID == other.mComponentID && mEmbedded == other.mEmbedded &&
            mRecords.Get().rollbackInformation == other.mRecords.Get().rollbackInformation &&
            mPCIInfo.AllPairsEqual(other.mPCIInfo) && mRecords.Get().pnpInfo.AllPairsEqual(other.mRecords.Get().pnpInfo) &&
-           HasAllPairsEqualTexts(other) && mRecords.Get().subComponents.AllPairsEqual(other.mRecords.Get().subComponents) &&
+           mTexts.AllPairsEqual(other.mTexts) && mRecords.Get().subComponents.AllPairsEqual(other.mRecords.Get().subComponents) &&
            mRecords.Get().dependencies.AllPairsEqual(other.mRecords.Get().dependencies) &&
            mRecords.Get().softDependencies.AllPairsEqual(other.mRecords.Get().softDependencies) &&
            mRecords.Get().applicability.AllPairsEqual(other.mRecords.Get().applicability);

@@ -6,6 +6,7 @@
 #include "QRMRollbackInformation.h"
 #include "QRMSoftDependency.h"
 
+#include "model/QRMDisplayValues.h"
 #include "model/QRMStore.h"
 
 // ---- QRMPCIInfo
@@ -173,6 +174,8 @@ QRMDependency::QRMDependency(QRMDependency&& other) = default;
 QRMDependency& QRMDependency::operator=(QRMDependency&& other) = default;
 QRMDependency::~QRMDependency() = default;
 
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMDependency, mTexts)
+
 unsigned int QRMDependency::GetType() const { return mType; }
 QRMKitReturnCode QRMDependency::SetType(unsigned int type) { return qrm::Store(mType, type); }
 VELString QRMDependency::GetName() const { return mName; }
@@ -200,7 +203,7 @@ bool QRMDependency::operator==(const QRMDependency& other) const
 {
     return mType == other.mType && mName == other.mName && mVersion == other.mVersion &&
            mIdentifier == other.mIdentifier && mPath == other.mPath && mSize == other.mSize &&
-           mFlags == other.mFlags && HasSameTexts(other) && mPCIInfo.AllPairsEqual(other.mPCIInfo) &&
+           mFlags == other.mFlags && mTexts.Same(other.mTexts) && mPCIInfo.AllPairsEqual(other.mPCIInfo) &&
            mPnPInfo.AllPairsEqual(other.mPnPInfo);
 }
 
@@ -215,6 +218,46 @@ QRMSoftDependency::QRMSoftDependency(QRMSoftDependency&& other) = default;
 QRMSoftDependency& QRMSoftDependency::operator=(QRMSoftDependency&& other) = default;
 QRMSoftDependency::~QRMSoftDependency() = default;
 
+unsigned int QRMSoftDependency::GetType() const { return mDependency.GetType(); }
+QRMKitReturnCode QRMSoftDependency::SetType(unsigned int type) { return mDependency.SetType(type); }
+VELString QRMSoftDependency::GetName() const { return mDependency.GetName(); }
+QRMKitReturnCode QRMSoftDependency::SetName(VELString name) { return mDependency.SetName(std::move(name)); }
+VELString QRMSoftDependency::GetVersion() const { return mDependency.GetVersion(); }
+QRMKitReturnCode QRMSoftDependency::SetVersion(VELString version)
+{
+    return mDependency.SetVersion(std::move(version));
+}
+VELGUID QRMSoftDependency::GetIdentifier() const { return mDependency.GetIdentifier(); }
+QRMKitReturnCode QRMSoftDependency::SetIdentifier(const VELGUID& identifier)
+{
+    return mDependency.SetIdentifier(identifier);
+}
+VELString QRMSoftDependency::GetPath() const { return mDependency.GetPath(); }
+QRMKitReturnCode QRMSoftDependency::SetPath(VELString path) { return mDependency.SetPath(std::move(path)); }
+unsigned long long QRMSoftDependency::GetSize() const { return mDependency.GetSize(); }
+QRMKitReturnCode QRMSoftDependency::SetSize(unsigned long long size) { return mDependency.SetSize(size); }
+unsigned int QRMSoftDependency::GetFlags() const { return mDependency.GetFlags(); }
+QRMKitReturnCode QRMSoftDependency::SetFlags(unsigned int flags) { return mDependency.SetFlags(flags); }
+QRMKitReturnCode QRMSoftDependency::AddPCIInfo(QRMPCIInfo pciInfo)
+{
+    return mDependency.AddPCIInfo(std::move(pciInfo));
+}
+void QRMSoftDependency::GetPCIInfo(std::vector<QRMPCIInfo>& out) const { mDependency.GetPCIInfo(out); }
+QRMKitReturnCode QRMSoftDependency::AddPnPInfo(QRMPnPInfo pnpInfo)
+{
+    return mDependency.AddPnPInfo(std::move(pnpInfo));
+}
+void QRMSoftDependency::GetPnPInfo(std::vector<QRMPnPInfo>& out) const { mDependency.GetPnPInfo(out); }
+QRMKitReturnCode QRMSoftDependency::AddDisplayValue(VELString language, VELString value)
+{
+    return mDependency.AddDisplayValue(std::move(language), std::move(value));
+}
+QRMKitReturnCode QRMSoftDependency::RemoveDisplayValue(const VELString& language)
+{
+    return mDependency.RemoveDisplayValue(language);
+}
+void QRMSoftDependency::GetDisplayValues(std::vector<QRMDisplay>& out) const { mDependency.GetDisplayValues(out); }
+
 QRMKitReturnCode QRMSoftDependency::AddApplicability(QRMDeviceApplicability applicability)
 {
     return mApplicability.AddUnique(std::move(applicability));
@@ -227,7 +270,7 @@ void QRMSoftDependency::GetApplicability(std::vector<QRMDeviceApplicability>& ou
 
 bool QRMSoftDependency::operator==(const QRMSoftDependency& other) const
 {
-    return QRMDependency::operator==(other) && mApplicability.AllPairsEqual(other.mApplicability);
+    return mDependency == other.mDependency && mApplicability.AllPairsEqual(other.mApplicability);
 }
 
 bool QRMSoftDependency::operator!=(const QRMSoftDependency& other) const { return !(*this == other); }

@@ -1,4 +1,5 @@
 #include "QRMDisplay.h"
+#include "QRMDeviceApplicability.h"
 
 #include "model/QRMStore.h"
 
@@ -24,3 +25,20 @@ bool QRMDisplay::operator==(const QRMDisplay& other) const
 }
 
 bool QRMDisplay::operator!=(const QRMDisplay& other) const { return !(*this == other); }
+
+// ---- QRMDeviceApplicability: a QRMDisplay under another name.
+
+QRMDeviceApplicability::QRMDeviceApplicability() = default;
+QRMDeviceApplicability::QRMDeviceApplicability(VELString language, VELString value)
+    : mText(std::move(language), std::move(value))
+{
+}
+VELString QRMDeviceApplicability::GetLanguage() const { return mText.GetLanguage(); }
+VELString QRMDeviceApplicability::GetValue() const { return mText.GetValue(); }
+QRMKitReturnCode QRMDeviceApplicability::SetLanguage(VELString language)
+{
+    return mText.SetLanguage(std::move(language));
+}
+QRMKitReturnCode QRMDeviceApplicability::SetValue(VELString value) { return mText.SetValue(std::move(value)); }
+bool QRMDeviceApplicability::operator==(const QRMDeviceApplicability& other) const { return mText == other.mText; }
+bool QRMDeviceApplicability::operator!=(const QRMDeviceApplicability& other) const { return !(*this == other); }

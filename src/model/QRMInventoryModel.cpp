@@ -3,6 +3,7 @@
 #include "QRMIDevice.h"
 #include "QRMISystem.h"
 
+#include "model/QRMDisplayValues.h"
 #include "model/QRMStore.h"
 
 #include <string_view>
@@ -16,6 +17,8 @@ QRMIApplication& QRMIApplication::operator=(const QRMIApplication& other) = defa
 QRMIApplication::QRMIApplication(QRMIApplication&& other) = default;
 QRMIApplication& QRMIApplication::operator=(QRMIApplication&& other) = default;
 QRMIApplication::~QRMIApplication() = default;
+
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMIApplication, mTexts)
 
 QRMComponentTypeValueEnum QRMIApplication::GetComponentType() const { return mComponentType; }
 QRMKitReturnCode QRMIApplication::SetComponentType(const QRMComponentTypeValueEnum& componentType)
@@ -36,16 +39,18 @@ bool QRMIApplication::operator==(const QRMIApplication& other) const
 {
     return mComponentType == other.mComponentType && mVersion == other.mVersion &&
            mDisplay == other.mDisplay && mSubComponentID == other.mSubComponentID &&
-           HasSameTexts(other);
+           mTexts.Same(other.mTexts);
 }
 
 bool QRMIApplication::operator!=(const QRMIApplication& other) const { return !(*this == other); }
 
 // ---- QRMIDevice
 
+namespace qrm::detail {
+
 // Applications by a hash of the texts their equality compares exactly, so
 // that equal applications always share a bucket.
-struct QRMIDevice::ApplicationIndex {
+struct ApplicationList::Index {
     static std::size_t HashOf(const QRMIApplication& application)
     {
         std::hash<std::u16string_view> text;
@@ -60,14 +65,67 @@ struct QRMIDevice::ApplicationIndex {
     std::unordered_multimap<std::size_t, const QRMIApplication*> byHash;
 };
 
+ApplicationList::ApplicationList() : mHandedOut(false) {}
+
+ApplicationList::ApplicationList(const ApplicationList& other) : mEntries(other.mEntries), mHandedOut(false) {}
+
+ApplicationList::~ApplicationList() = default;
+
+void ApplicationList::HandOut(std::vector<QRMIApplication*>& out) const
+{
+    mHandedOut = true;
+    mIndex.reset();
+    mEntries.AppendPointersTo(out);
+}
+
+QRMKitReturnCode ApplicationList::AddUnique(QRMIApplication application)
+{
+    if (mHandedOut) {
+        return mEntries.AddUnique(std::move(application));
+    }
+    if (!mIndex) {
+        mIndex.reset(new Index);
+        for (const QRMIApplication* held : mEntries) {
+            mIndex->byHash.emplace(Index::HashOf(*held), held);
+        }
+    }
+    const std::size_t hash = Index::HashOf(application);
+    auto sameHash = mIndex->byHash.equal_range(hash);
+    for (auto entry = sameHash.first; entry != sameHash.second; ++entry) {
+        if (*entry->second == application) {
+            return QRM_KIT_ALREADY_EXISTS;
+        }
+    }
+    const QRMIApplication* added = mEntries.Append(std::move(application));
+    mIndex->byHash.emplace(hash, added);
+    return QRM_KIT_SUCCESS;
+}
+
+void ApplicationList::RetireEqual(const QRMIApplication& application)
+{
+    // Removal clears and moves entries: the index is rebuilt when needed.
+    mIndex.reset();
+    // After taking an entry out, the walk moves one place on from where it
+    // stood, so the entry that moved into the freed place is not examined.
+    std::size_t position = 0;
+    while (position < mEntries.Size()) {
+        if (*mEntries.At(position) == application) {
+            mEntries.Retire(position);
+        }
+        ++position;
+    }
+}
+
+}  // namespace qrm::detail
+
 QRMIDevice::QRMIDevice()
-    : mApplicationsHandedOut(false), mBus(0), mDevice(0), mFunction(0), mComponentID(0),
+    : mBus(0), mDevice(0), mFunction(0), mComponentID(0),
       mVendorID(0), mDeviceID(0), mSubDeviceID(0), mSubVendorID(0), mComponentInstance(0)
 {
 }
 
 QRMIDevice::QRMIDevice(const QRMIDevice& other)
-    : QRMDisplayList(other), mApplications(other.mApplications), mApplicationsHandedOut(false),
+    : mTexts(other.mTexts), mApplications(other.mApplications),
       mDisplay(other.mDisplay), mBus(other.mBus), mDevice(other.mDevice),
       mFunction(other.mFunction), mComponentID(other.mComponentID), mVendorID(other.mVendorID),
       mDeviceID(other.mDeviceID), mSubDeviceID(other.mSubDeviceID),
@@ -87,11 +145,13 @@ QRMIDevice& QRMIDevice::operator=(const QRMIDevice& other)
     mSubDeviceID = other.mSubDeviceID;
     mSubVendorID = other.mSubVendorID;
     mComponentInstance = other.mComponentInstance;
-    QRMDisplayList::operator=(other);
+    mTexts = other.mTexts;
     return *this;
 }
 
 QRMIDevice::~QRMIDevice() = default;
+
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMIDevice, mTexts)
 
 int QRMIDevice::GetBus() const { return mBus; }
 QRMKitReturnCode QRMIDevice::SetBus(int bus) { return qrm::Store(mBus, bus); }
@@ -120,59 +180,24 @@ QRMKitReturnCode QRMIDevice::SetComponentID(unsigned long long componentID)
 VELString QRMIDevice::GetDisplay() const { return mDisplay; }
 QRMKitReturnCode QRMIDevice::SetDisplay(VELString display) { return qrm::Store(mDisplay, std::move(display)); }
 
-void QRMIDevice::GetApplications(std::vector<QRMIApplication*>& out) const
-{
-    mApplicationsHandedOut = true;
-    DropApplicationIndex();
-    mApplications.AppendPointersTo(out);
-}
+void QRMIDevice::GetApplications(std::vector<QRMIApplication*>& out) const { mApplications.HandOut(out); }
 
 QRMKitReturnCode QRMIDevice::AddApplication(QRMIApplication application)
 {
-    if (mApplicationsHandedOut) {
-        return mApplications.AddUnique(std::move(application));
-    }
-    if (!mApplicationIndex) {
-        mApplicationIndex.reset(new ApplicationIndex);
-        for (const QRMIApplication* held : mApplications) {
-            mApplicationIndex->byHash.emplace(ApplicationIndex::HashOf(*held), held);
-        }
-    }
-    const std::size_t hash = ApplicationIndex::HashOf(application);
-    auto sameHash = mApplicationIndex->byHash.equal_range(hash);
-    for (auto entry = sameHash.first; entry != sameHash.second; ++entry) {
-        if (*entry->second == application) {
-            return QRM_KIT_ALREADY_EXISTS;
-        }
-    }
-    const QRMIApplication* added = mApplications.Append(std::move(application));
-    mApplicationIndex->byHash.emplace(hash, added);
-    return QRM_KIT_SUCCESS;
+    return mApplications.AddUnique(std::move(application));
 }
-
-void QRMIDevice::DropApplicationIndex() const { mApplicationIndex.reset(); }
 
 QRMKitReturnCode QRMIDevice::RemoveApplication(const QRMIApplication& application)
 {
-    // Removal clears and moves entries: the index is rebuilt when needed.
-    DropApplicationIndex();
-    // After taking an entry out, the walk moves one place on from where it
-    // stood, so the entry that moved into the freed place is not examined.
-    std::size_t position = 0;
-    while (position < mApplications.Size()) {
-        if (*mApplications.At(position) == application) {
-            mApplications.Retire(position);
-        }
-        ++position;
-    }
+    mApplications.RetireEqual(application);
     return QRM_KIT_NOT_FOUND;
 }
 
 namespace {
 
 // True when some application of `left` equals some application of `right`.
-bool ShareAnApplication(const QRMOwnedList<QRMIApplication>& left,
-                        const QRMOwnedList<QRMIApplication>& right)
+bool ShareAnApplication(const qrm::detail::OwnedList<QRMIApplication>& left,
+                        const qrm::detail::OwnedList<QRMIApplication>& right)
 {
     for (const QRMIApplication* a : left) {
         for (const QRMIApplication* b : right) {
@@ -194,9 +219,9 @@ bool QRMIDevice::operator==(const QRMIDevice& other) const
            mDeviceID == other.mDeviceID && mSubDeviceID == other.mSubDeviceID &&
            mSubVendorID == other.mSubVendorID && mBus == other.mBus && mDevice == other.mDevice &&
            mFunction == other.mFunction && mComponentInstance == other.mComponentInstance &&
-           mDisplay == other.mDisplay && TextsAgree(other) &&
-           !ShareAnApplication(mApplications, other.mApplications) &&
-           !ShareAnApplication(other.mApplications, mApplications);
+           mDisplay == other.mDisplay && mTexts.Agree(other.mTexts) &&
+           !ShareAnApplication(mApplications.Entries(), other.mApplications.Entries()) &&
+           !ShareAnApplication(other.mApplications.Entries(), mApplications.Entries());
 }
 
 bool QRMIDevice::operator!=(const QRMIDevice& other) const { return !(*this == other); }
@@ -209,6 +234,8 @@ QRMISystem& QRMISystem::operator=(const QRMISystem& other) = default;
 QRMISystem::QRMISystem(QRMISystem&& other) = default;
 QRMISystem& QRMISystem::operator=(QRMISystem&& other) = default;
 QRMISystem::~QRMISystem() = default;
+
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMISystem, mTexts)
 
 unsigned int QRMISystem::GetSystemID() const { return mSystemID; }
 QRMKitReturnCode QRMISystem::SetSystemID(unsigned int systemID) { return qrm::Store(mSystemID, systemID); }
@@ -225,7 +252,7 @@ QRMKitReturnCode QRMISystem::SetServiceTag(VELString serviceTag) { return qrm::S
 bool QRMISystem::operator==(const QRMISystem& other) const
 {
     return mSystemID == other.mSystemID && mSystemIDType == other.mSystemIDType &&
-           mDisplay == other.mDisplay && mServiceTag == other.mServiceTag && HasSameTexts(other);
+           mDisplay == other.mDisplay && mServiceTag == other.mServiceTag && mTexts.Same(other.mTexts);
 }
 
 bool QRMISystem::operator!=(const QRMISystem& other) const { return !(*this == other); }

@@ -89,18 +89,18 @@ QRMKitReturnCode QRMSoftwareBundle::SetBundleType(QRMBundleTypeEnum value) { ret
 
 void QRMSoftwareBundle::GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const
 {
-    mDescription.GetDisplayValues(out);
+    mDescription.AppendCopiesTo(out);
 }
 
 QRMKitReturnCode QRMSoftwareBundle::AddDescriptionDisplayValue(VELString language,
                                                                VELString value)
 {
-    return mDescription.AddDisplayValue(std::move(language), std::move(value));
+    return mDescription.Add(std::move(language), std::move(value));
 }
 
 QRMKitReturnCode QRMSoftwareBundle::RemoveDescriptionDisplayValue(const VELString& language)
 {
-    return mDescription.RemoveDisplayValue(language);
+    return mDescription.Remove(language);
 }
 
 QRMKitReturnCode QRMSoftwareBundle::AddContent(QRMBundleContent content)

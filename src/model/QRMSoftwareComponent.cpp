@@ -63,7 +63,7 @@ struct QRMSoftwareComponent::Extras {
     QRMInstallInstruction installInstruction;
     QRMRevisionHistory revisionHistory;
     VELGUID msiID;
-    QRMOwnedList<QRMFMPWrapperInformation> wrappers;
+    qrm::detail::OwnedList<QRMFMPWrapperInformation> wrappers;
     VELString xmlGenVersion;
     unsigned long long size = 0;
     VELGUID identifier;
@@ -167,18 +167,18 @@ QRMKitReturnCode QRMSoftwareComponent::SetRequiresContainerPowerCycle(bool value
 
 void QRMSoftwareComponent::GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const
 {
-    mDescription.GetDisplayValues(out);
+    mDescription.AppendCopiesTo(out);
 }
 
 QRMKitReturnCode QRMSoftwareComponent::AddDescriptionDisplayValue(VELString language,
                                                                   VELString value)
 {
-    return mDescription.AddDisplayValue(std::move(language), std::move(value));
+    return mDescription.Add(std::move(language), std::move(value));
 }
 
 QRMKitReturnCode QRMSoftwareComponent::RemoveDescriptionDisplayValue(const VELString& language)
 {
-    return mDescription.RemoveDisplayValue(language);
+    return mDescription.Remove(language);
 }
 
 void QRMSoftwareComponent::GetSupportedDevices(std::vector<QRMDevice*>& out) const
@@ -221,7 +221,7 @@ bool QRMSoftwareComponent::operator==(const QRMSoftwareComponent& other) const
     const Extras& mine = mExtras.Get();
     const Extras& theirs = other.mExtras.Get();
     return mName == other.mName && mComponentType == other.mComponentType &&
-           mDescription == other.mDescription && mCategory == other.mCategory &&
+           mDescription.Same(other.mDescription) && mCategory == other.mCategory &&
            mLUCategory == other.mLUCategory &&
            mSupportedDevices.AllPairsEqual(other.mSupportedDevices) &&
            mSupportedSystems == other.mSupportedSystems &&

@@ -5,6 +5,7 @@
 #include "QRMSupportedOperatingSystems.h"
 #include "QRMSupportedSystems.h"
 
+#include "model/QRMDisplayValues.h"
 #include "model/QRMStore.h"
 
 // ---- QRMOperatingSystem
@@ -18,6 +19,8 @@ QRMOperatingSystem& QRMOperatingSystem::operator=(const QRMOperatingSystem& othe
 QRMOperatingSystem::QRMOperatingSystem(QRMOperatingSystem&& other) = default;
 QRMOperatingSystem& QRMOperatingSystem::operator=(QRMOperatingSystem&& other) = default;
 QRMOperatingSystem::~QRMOperatingSystem() = default;
+
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMOperatingSystem, mTexts)
 
 VELString QRMOperatingSystem::GetCode() const { return mCode; }
 QRMKitReturnCode QRMOperatingSystem::SetCode(VELString code) { return qrm::Store(mCode, std::move(code)); }
@@ -78,7 +81,7 @@ bool QRMOperatingSystem::operator==(const QRMOperatingSystem& other) const
            mServicePackMinorVersion == other.mServicePackMinorVersion &&
            mPreInstallEnvironment == other.mPreInstallEnvironment &&
            mSuiteMask == other.mSuiteMask && mNumericTags.AllPairsEqual(other.mNumericTags) &&
-           HasSameTexts(other);
+           mTexts.Same(other.mTexts);
 }
 
 bool QRMOperatingSystem::operator!=(const QRMOperatingSystem& other) const { return !(*this == other); }
@@ -132,6 +135,8 @@ QRMModel::QRMModel(QRMModel&& other) = default;
 QRMModel& QRMModel::operator=(QRMModel&& other) = default;
 QRMModel::~QRMModel() = default;
 
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMModel, mTexts)
+
 unsigned int QRMModel::GetSystemID() const { return mSystemID; }
 QRMKitReturnCode QRMModel::SetSystemID(unsigned int systemID) { return qrm::Store(mSystemID, systemID); }
 unsigned int QRMModel::GetSecondID() const { return mSecondID; }
@@ -155,6 +160,8 @@ QRMBrand::QRMBrand(QRMBrand&& other) = default;
 QRMBrand& QRMBrand::operator=(QRMBrand&& other) = default;
 QRMBrand::~QRMBrand() = default;
 
+QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMBrand, mTexts)
+
 unsigned int QRMBrand::GetKey() const { return mKey; }
 QRMKitReturnCode QRMBrand::SetKey(VELString key) { return qrm::Store(mKey, key.GetIntValue(std::dec)); }
 VELString QRMBrand::GetPrefix() const { return mPrefix; }
@@ -172,7 +179,7 @@ namespace {
 
 // Every model of `left` that shares system id and second id with a model of
 // `right` must be that very model.
-bool SameIdentifiedModels(const QRMOwnedList<QRMModel>& left, const QRMOwnedList<QRMModel>& right)
+bool SameIdentifiedModels(const qrm::detail::OwnedList<QRMModel>& left, const qrm::detail::OwnedList<QRMModel>& right)
 {
     for (const QRMModel* a : left) {
         for (const QRMModel* b : right) {
@@ -189,7 +196,7 @@ bool SameIdentifiedModels(const QRMOwnedList<QRMModel>& left, const QRMOwnedList
 
 bool QRMBrand::operator==(const QRMBrand& other) const
 {
-    return mKey == other.mKey && mPrefix == other.mPrefix && HasSameTexts(other) &&
+    return mKey == other.mKey && mPrefix == other.mPrefix && mTexts.Same(other.mTexts) &&
            mModels.Size() == other.mModels.Size() &&
            SameIdentifiedModels(mModels, other.mModels) &&
            SameIdentifiedModels(other.mModels, mModels);

@@ -41,7 +41,8 @@ std::vector<std::size_t> FailurePoints(std::size_t total)
 // compares lists all against all (kept for compatibility), so an object with
 // two different entries in a list is not equal to its own copy: these
 // accounts compare entry by entry instead.
-std::string Texts(const QRMDisplayList& list)
+template <class Holder>
+std::string Texts(const Holder& list)
 {
     std::vector<QRMDisplay> displays;
     list.GetDisplayValues(displays);

@@ -113,11 +113,9 @@ void LoadInventory(const std::string& path) { Load(path, false); }
 
 std::string Utf8(const VELString& text) { return text.GetUTF8String(); }
 
-std::string FirstText(const QRMDisplayList& texts)
+std::string FirstText(const std::vector<QRMDisplay>& texts)
 {
-    std::vector<QRMDisplay> values;
-    texts.GetDisplayValues(values);
-    return values.empty() ? std::string() : Utf8(values.front().GetValue());
+    return texts.empty() ? std::string() : Utf8(texts.front().GetValue());
 }
 
 std::string Hex(unsigned long long value, int digits)

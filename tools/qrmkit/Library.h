@@ -60,8 +60,16 @@ constexpr std::array<QRMCriticalityValueEnum, 4> kCriticalities = {
     QRM_CRITICALITY_LEVEL1, QRM_CRITICALITY_LEVEL2, QRM_CRITICALITY_LEVEL3, QRM_CRITICALITY_UNSPECIFIED};
 
 std::string Utf8(const VELString& text);
-// The first of the texts of a display list ("" when it has none).
-std::string FirstText(const QRMDisplayList& texts);
+// The value of the first text ("" when there is none).
+std::string FirstText(const std::vector<QRMDisplay>& texts);
+// The value of the first text of anything that carries texts.
+template <class Holder>
+std::string FirstText(const Holder& holder)
+{
+    std::vector<QRMDisplay> texts;
+    holder.GetDisplayValues(texts);
+    return FirstText(texts);
+}
 // Upper-case hexadecimal with at least `digits` digits ("0A6B").
 std::string Hex(unsigned long long value, int digits = 4);
 // "1", "2", "3" or "unspecified".

@@ -1,19 +1,24 @@
-// QRMSeldom<T>: the members of a value class that catalogs seldom give,
+// Internal to the library: not part of its contract, may change in any
+// version. Do not include this header directly.
+//
+// Seldom<T>: the members of a value class that catalogs seldom give,
 // held apart and created on their first change, so that the many objects
 // that never use them stay small. Reading an absent part gives a
 // default-constructed T; copies are deep; assignment is member by member,
 // as T's own (assigning an object to itself empties its lists).
-#ifndef QRMKIT_SELDOM_H
-#define QRMKIT_SELDOM_H
+#ifndef QRMKIT_DETAIL_SELDOM_H
+#define QRMKIT_DETAIL_SELDOM_H
 
 #include <memory>
 
+namespace qrm::detail {
+
 template <class T>
-class QRMSeldom {
+class Seldom {
 public:
-    QRMSeldom() = default;
-    QRMSeldom(const QRMSeldom& other) : mPart(other.mPart ? new T(*other.mPart) : nullptr) {}
-    QRMSeldom& operator=(const QRMSeldom& other)
+    Seldom() = default;
+    Seldom(const Seldom& other) : mPart(other.mPart ? new T(*other.mPart) : nullptr) {}
+    Seldom& operator=(const Seldom& other)
     {
         if (other.mPart) {
             Change() = *other.mPart;
@@ -22,9 +27,9 @@ public:
         }
         return *this;
     }
-    QRMSeldom(QRMSeldom&& other) noexcept = default;
-    QRMSeldom& operator=(QRMSeldom&& other) noexcept = default;
-    ~QRMSeldom() = default;
+    Seldom(Seldom&& other) noexcept = default;
+    Seldom& operator=(Seldom&& other) noexcept = default;
+    ~Seldom() = default;
 
     const T& Get() const
     {
@@ -42,5 +47,7 @@ public:
 private:
     std::unique_ptr<T> mPart;
 };
+
+}  // namespace qrm::detail
 
 #endif

@@ -1,4 +1,7 @@
-// QRMOwnedList<T>: an insertion-ordered list of heap objects that the list
+// Internal to the library: not part of its contract, may change in any
+// version. Do not include this header directly.
+//
+// OwnedList<T>: an insertion-ordered list of heap objects that the list
 // owns. Every list of owned objects in the library is one of these, so the
 // copy, removal and equality rules exist once.
 //
@@ -10,10 +13,10 @@
 // RemoveClosingUp and Retire) stay owned by the list, out of sight, until the
 // list is destroyed, cleared or assigned to, so a pointer a caller obtained
 // earlier never dangles before then.
-#ifndef QRMKIT_OWNED_LIST_H
-#define QRMKIT_OWNED_LIST_H
+#ifndef QRMKIT_DETAIL_OWNED_LIST_H
+#define QRMKIT_DETAIL_OWNED_LIST_H
 
-#include "QRMKitTypes.h"
+#include "../QRMKitTypes.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -22,16 +25,18 @@
 #include <utility>
 #include <vector>
 
+namespace qrm::detail {
+
 template <class T>
-class QRMOwnedList {
+class OwnedList {
 public:
     typedef T* const* const_iterator;
 
-    QRMOwnedList() = default;
+    OwnedList() = default;
     // Delegates first, so that the copies made before an allocation fails
     // are released by the destructor.
-    QRMOwnedList(const QRMOwnedList& other) : QRMOwnedList() { AppendCopiesOf(other); }
-    QRMOwnedList& operator=(const QRMOwnedList& other)
+    OwnedList(const OwnedList& other) : OwnedList() { AppendCopiesOf(other); }
+    OwnedList& operator=(const OwnedList& other)
     {
         if (this == &other) {
             Clear();
@@ -43,11 +48,11 @@ public:
     }
     // Moving hands the objects over: the same pointers, now owned by the
     // target; the source is left empty.
-    QRMOwnedList(QRMOwnedList&& other) noexcept : mRetired(std::move(other.mRetired))
+    OwnedList(OwnedList&& other) noexcept : mRetired(std::move(other.mRetired))
     {
         mItems.TakeFrom(other.mItems);
     }
-    QRMOwnedList& operator=(QRMOwnedList&& other) noexcept
+    OwnedList& operator=(OwnedList&& other) noexcept
     {
         if (this != &other) {
             Clear();
@@ -56,7 +61,7 @@ public:
         }
         return *this;
     }
-    ~QRMOwnedList() { Clear(); }
+    ~OwnedList() { Clear(); }
 
     std::size_t Size() const { return mItems.size(); }
     T* At(std::size_t index) const { return mItems[index]; }
@@ -202,7 +207,7 @@ public:
     // therefore unequal even to itself. Kept for compatibility: this is the
     // equality the value classes have always had for their lists.
     template <class Equal>
-    bool AllPairsEqual(const QRMOwnedList& other, Equal equal) const
+    bool AllPairsEqual(const OwnedList& other, Equal equal) const
     {
         if (mItems.size() != other.mItems.size()) {
             return false;
@@ -224,7 +229,7 @@ public:
         return true;
     }
 
-    bool AllPairsEqual(const QRMOwnedList& other) const
+    bool AllPairsEqual(const OwnedList& other) const
     {
         return AllPairsEqual(other, [](const T& left, const T& right) { return left == right; });
     }
@@ -250,7 +255,7 @@ private:
         return QRM_KIT_SUCCESS;
     }
 
-    void AppendCopiesOf(const QRMOwnedList& other)
+    void AppendCopiesOf(const OwnedList& other)
     {
         mItems.Reserve(other.mItems.size());
         for (const T* item : other.mItems) {
@@ -357,5 +362,7 @@ private:
     // Entries taken out but not released; created on first use.
     std::unique_ptr<std::vector<T*>> mRetired;
 };
+
+}  // namespace qrm::detail
 
 #endif
