@@ -53,13 +53,6 @@ unsigned int QRMKitAPI::GetGreatestBundleNumber(QRMBundleTypeEnum bundleType) co
 
 namespace {
 
-struct VELStringHash {
-    std::size_t operator()(const VELString& text) const
-    {
-        return std::hash<std::u16string_view>()(text.GetUTF16View());
-    }
-};
-
 // One way a catalog component can match: a supported device (identified by
 // component id) or one PCI entry of it, reached through one package entry
 // of the bundle. Candidates are recorded in exactly the order in which a

@@ -239,7 +239,8 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
     QRMBundleTypeFromText(AttributeOrEmpty(element, "bundleType"), bundleType);
     bundle.SetBundleType(bundleType);
 
-    return mCatalogManifest.AddSoftwareBundle(std::move(entry));
+    mCatalogManifest.AddSoftwareBundle(std::move(entry));
+    return QRM_KIT_SUCCESS;
 }
 
 QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
@@ -344,7 +345,8 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
 
     // The first text recorded for a code stays.
     mCatalogManifest.AddCategoryValue(categoryCode, categoryText);
-    return mCatalogManifest.AddSoftwareComponent(std::move(entry));
+    mCatalogManifest.AddSoftwareComponent(std::move(entry));
+    return QRM_KIT_SUCCESS;
 }
 
 QRMKitReturnCode QRMKitAPI::ParseInventoryComponent(VELXMLNode*& node)
@@ -362,5 +364,6 @@ QRMKitReturnCode QRMKitAPI::ParseInventoryComponent(VELXMLNode*& node)
         Failed(component.SetPath(AttributeOrEmpty(element, "path")))) {
         return QRM_KIT_FAILURE;
     }
-    return mCatalogManifest.AddInventoryComponent(component);
+    mCatalogManifest.AddInventoryComponent(component);
+    return QRM_KIT_SUCCESS;
 }

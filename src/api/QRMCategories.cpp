@@ -22,11 +22,7 @@ VELString ToUpper(const VELString& text)
 
 bool IsLetter(char16_t unit) { return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z'); }
 
-struct UnitsHash {
-    std::size_t operator()(const std::u16string& units) const { return std::hash<std::u16string>()(units); }
-};
-
-typedef std::unordered_set<std::u16string, UnitsHash> TextSet;
+typedef std::unordered_set<std::u16string> TextSet;
 
 // The letters an acronym is made from: the code's consonants, upper-cased;
 // a code without any gets every consonant.

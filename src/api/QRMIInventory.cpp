@@ -4,19 +4,13 @@
 
 QRMIInventory::QRMIInventory() : mLanguage(QRM_LANG_EN), mParsed(false) {}
 
-QRMKitReturnCode QRMIInventory::SetLanguage(QRMInventoryLanguageEnum language)
-{
-    return qrm::Store(mLanguage, language);
-}
+void QRMIInventory::SetLanguage(QRMInventoryLanguageEnum language) { mLanguage = language; }
 
-QRMKitReturnCode QRMIInventory::SetSchemaVersion(const VELString& schemaVersion)
-{
-    return qrm::Store(mSchemaVersion, schemaVersion);
-}
+void QRMIInventory::SetSchemaVersion(const VELString& schemaVersion) { mSchemaVersion = schemaVersion; }
 
-QRMKitReturnCode QRMIInventory::SetTimeStamp(const VELTime& timeStamp) { return qrm::Store(mTimeStamp, timeStamp); }
+void QRMIInventory::SetTimeStamp(const VELTime& timeStamp) { mTimeStamp = timeStamp; }
 
-QRMKitReturnCode QRMIInventory::SetParsed() { return qrm::Store(mParsed, true); }
+void QRMIInventory::SetParsed() { mParsed = true; }
 
 QRMKitReturnCode QRMIInventory::AddOperatingSystem(const QRMOperatingSystem& os)
 {

@@ -20,10 +20,10 @@ public:
     QRMIInventory(const QRMIInventory&) = delete;
     QRMIInventory& operator=(const QRMIInventory&) = delete;
 
-    QRMKitReturnCode SetLanguage(QRMInventoryLanguageEnum language);
-    QRMKitReturnCode SetSchemaVersion(const VELString& schemaVersion);
-    QRMKitReturnCode SetTimeStamp(const VELTime& timeStamp);
-    QRMKitReturnCode SetParsed();
+    void SetLanguage(QRMInventoryLanguageEnum language);
+    void SetSchemaVersion(const VELString& schemaVersion);
+    void SetTimeStamp(const VELTime& timeStamp);
+    void SetParsed();
 
     // QRM_KIT_ALREADY_EXISTS (nothing stored) when a held item equals the
     // argument; otherwise a copy is stored at the end.

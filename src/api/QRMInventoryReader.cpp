@@ -198,12 +198,12 @@ try {
     }
     QRMInventoryLanguageEnum language = QRM_LANG_EN;
     QRMInventoryLanguageFromText(text, language);
-    if (Failed(mInventory.SetLanguage(language)) ||
-        Failed(SetIfPresent(root, "schemaVersion",
-                            [](const VELString& v) { return mInventory.SetSchemaVersion(v); })) ||
-        Failed(SetNumberIfPresent(root, "timeStamp", 10,
-                                  [](unsigned int v) { return mInventory.SetTimeStamp(VELTime(v)); }))) {
-        return QRM_KIT_FAILURE;
+    mInventory.SetLanguage(language);
+    if (ReadAttribute(root, "schemaVersion", text)) {
+        mInventory.SetSchemaVersion(text);
+    }
+    if (root.GetAttributeText("timeStamp") != nullptr) {
+        mInventory.SetTimeStamp(VELTime(AttributeNumber(root, "timeStamp", 10)));
     }
 
     // The application type carries over from one Application to the next

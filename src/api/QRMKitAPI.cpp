@@ -92,21 +92,11 @@ try {
     }
 
     const XmlElement rootElement = XmlElement::Of(*root);
-    if (mCatalogManifest.SetBaseLocation(qrm::AttributeOrEmpty(rootElement, "baseLocation")) ==
-        QRM_KIT_FAILURE) {
-        return QRM_KIT_FAILURE;
-    }
+    mCatalogManifest.SetBaseLocation(qrm::AttributeOrEmpty(rootElement, "baseLocation"));
     VELTime dateTime(qrm::AttributeNumber(rootElement, "dateTime", 10));
-    if (mCatalogManifest.SetDateTime(dateTime) == QRM_KIT_FAILURE) {
-        return QRM_KIT_FAILURE;
-    }
-    if (mCatalogManifest.SetReleaseID(qrm::AttributeOrEmpty(rootElement, "releaseID")) ==
-        QRM_KIT_FAILURE) {
-        return QRM_KIT_FAILURE;
-    }
-    if (mCatalogManifest.SetVersion(qrm::AttributeOrEmpty(rootElement, "version")) == QRM_KIT_FAILURE) {
-        return QRM_KIT_FAILURE;
-    }
+    mCatalogManifest.SetDateTime(dateTime);
+    mCatalogManifest.SetReleaseID(qrm::AttributeOrEmpty(rootElement, "releaseID"));
+    mCatalogManifest.SetVersion(qrm::AttributeOrEmpty(rootElement, "version"));
 
     XmlElement next = rootElement.FirstChildElement();
     while (next) {
@@ -133,7 +123,8 @@ try {
     }
     document.reset();
     mCatalogManifest.TrustFileNames();
-    return mCatalogManifest.SetParsed();
+    mCatalogManifest.SetParsed();
+    return QRM_KIT_SUCCESS;
 } catch (const std::exception&) {
     // Out of memory: the call fails as a file with a missing element does:
     // what was read so far stays stored, and the catalog is not parsed.

@@ -18,35 +18,33 @@ void CopyInto(const QRMManifest::TextMap& from, QRMManifest::TextMap& to)
 
 QRMManifest::QRMManifest() : mParsed(false) {}
 
-QRMKitReturnCode QRMManifest::Clear()
+void QRMManifest::Clear()
 {
     mInventoryComponents.Clear();
     mSoftwareComponents.Clear();
     mSoftwareBundles.Clear();
-    mSpareComponents.Clear();
     mFileNames.clear();
     mFileNamesTrusted = false;
     mBaseLocation = VELString();
     mReleaseID = VELString();
     mVersion = VELString();
     mParsed = false;
-    return QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode QRMManifest::SetBaseLocation(const VELString& value) { return qrm::Store(mBaseLocation, value); }
+void QRMManifest::SetBaseLocation(const VELString& value) { mBaseLocation = value; }
 
-QRMKitReturnCode QRMManifest::SetReleaseID(const VELString& value) { return qrm::Store(mReleaseID, value); }
+void QRMManifest::SetReleaseID(const VELString& value) { mReleaseID = value; }
 
-QRMKitReturnCode QRMManifest::SetVersion(const VELString& value) { return qrm::Store(mVersion, value); }
+void QRMManifest::SetVersion(const VELString& value) { mVersion = value; }
 
-QRMKitReturnCode QRMManifest::SetDateTime(const VELTime& value) { return qrm::Store(mDateTime, value); }
+void QRMManifest::SetDateTime(const VELTime& value) { mDateTime = value; }
 
 VELString QRMManifest::GetBaseLocation() const { return mBaseLocation; }
 VELString QRMManifest::GetReleaseID() const { return mReleaseID; }
 VELString QRMManifest::GetVersion() const { return mVersion; }
 VELTime QRMManifest::GetDateTime() const { return mDateTime; }
 
-QRMKitReturnCode QRMManifest::SetParsed() { return qrm::Store(mParsed, true); }
+void QRMManifest::SetParsed() { mParsed = true; }
 
 bool QRMManifest::IsParsed() const { return mParsed; }
 
@@ -59,13 +57,12 @@ std::uint32_t FileNameHash(std::u16string_view fileName)
 
 }  // namespace
 
-QRMKitReturnCode QRMManifest::AddSoftwareComponent(std::unique_ptr<QRMSoftwareComponent> component)
+void QRMManifest::AddSoftwareComponent(std::unique_ptr<QRMSoftwareComponent> component)
 {
     const std::uint32_t hash = FileNameHash(qrm::FileNameOf(component->GetPathView()));
     QRMSoftwareComponent* stored = mSoftwareComponents.Append(std::move(component));
     // Should this fail, the read fails and the index is never trusted.
     mFileNames.push_back({hash, static_cast<std::uint32_t>(mFileNames.size()), stored});
-    return QRM_KIT_SUCCESS;
 }
 
 bool QRMManifest::FindByFileName(std::u16string_view fileName, std::vector<QRMSoftwareComponent*>& components) const
@@ -96,28 +93,24 @@ void QRMManifest::TrustFileNames()
 
 void QRMManifest::DistrustFileNames() const { mFileNamesTrusted = false; }
 
-QRMKitReturnCode QRMManifest::AddSoftwareBundle(std::unique_ptr<QRMSoftwareBundle> bundle)
+void QRMManifest::AddSoftwareBundle(std::unique_ptr<QRMSoftwareBundle> bundle)
 {
     mSoftwareBundles.Append(std::move(bundle));
-    return QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode QRMManifest::AddInventoryComponent(const QRMInventoryComponent& component)
+void QRMManifest::AddInventoryComponent(const QRMInventoryComponent& component)
 {
     mInventoryComponents.Append(component);
-    return QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode QRMManifest::AddCategoryValue(const VELString& code, const VELString& text)
+void QRMManifest::AddCategoryValue(const VELString& code, const VELString& text)
 {
     mCategoryValues.emplace(code, text);
-    return QRM_KIT_SUCCESS;
 }
 
-QRMKitReturnCode QRMManifest::AddCategoryAcronym(const VELString& acronym, const VELString& text)
+void QRMManifest::AddCategoryAcronym(const VELString& acronym, const VELString& text)
 {
     mCategoryAcronyms.emplace(acronym, text);
-    return QRM_KIT_SUCCESS;
 }
 
 void QRMManifest::GetCategoryValueMap(TextMap& values) const { CopyInto(mCategoryValues, values); }

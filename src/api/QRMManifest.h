@@ -46,30 +46,30 @@ public:
     // and version; lowers the parsed flag. The date and both category maps
     // stay: kept for compatibility, callers still see the categories of an
     // earlier catalog after a reset or a new parse.
-    QRMKitReturnCode Clear();
+    void Clear();
 
-    QRMKitReturnCode SetBaseLocation(const VELString& value);
-    QRMKitReturnCode SetReleaseID(const VELString& value);
-    QRMKitReturnCode SetVersion(const VELString& value);
-    QRMKitReturnCode SetDateTime(const VELTime& value);
+    void SetBaseLocation(const VELString& value);
+    void SetReleaseID(const VELString& value);
+    void SetVersion(const VELString& value);
+    void SetDateTime(const VELTime& value);
     VELString GetBaseLocation() const;
     VELString GetReleaseID() const;
     VELString GetVersion() const;
     VELTime GetDateTime() const;
 
-    QRMKitReturnCode SetParsed();
+    void SetParsed();
     bool IsParsed() const;
 
     // Append at the end; duplicates are kept (two catalog entries with the
     // same identifier are both listed). Components and bundles are taken
     // over as the reader built them, never copied.
-    QRMKitReturnCode AddSoftwareComponent(std::unique_ptr<QRMSoftwareComponent> component);
-    QRMKitReturnCode AddSoftwareBundle(std::unique_ptr<QRMSoftwareBundle> bundle);
-    QRMKitReturnCode AddInventoryComponent(const QRMInventoryComponent& component);
+    void AddSoftwareComponent(std::unique_ptr<QRMSoftwareComponent> component);
+    void AddSoftwareBundle(std::unique_ptr<QRMSoftwareBundle> bundle);
+    void AddInventoryComponent(const QRMInventoryComponent& component);
 
     // Insert, not overwrite: a key already present keeps its first text.
-    QRMKitReturnCode AddCategoryValue(const VELString& code, const VELString& text);
-    QRMKitReturnCode AddCategoryAcronym(const VELString& acronym, const VELString& text);
+    void AddCategoryValue(const VELString& code, const VELString& text);
+    void AddCategoryAcronym(const VELString& acronym, const VELString& text);
     // Sets the caller's entry for every stored key (overwriting what the
     // caller held under it); the caller's other entries stay.
     void GetCategoryValueMap(TextMap& values) const;
@@ -108,8 +108,6 @@ private:
     mutable bool mFileNamesTrusted = false;
     TextMap mCategoryValues;
     TextMap mCategoryAcronyms;
-    // A second component list that nothing fills; Clear releases it too.
-    qrm::detail::OwnedList<QRMSoftwareComponent> mSpareComponents;
     VELString mBaseLocation;
     VELTime mDateTime;
     VELString mReleaseID;
