@@ -1,5 +1,7 @@
 #include "FuzzSupport.h"
 
+#include "ReferenceUpdates.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -150,13 +152,22 @@ uint64_t Mix(uint64_t seed, uint64_t value)
     return (seed ^ value) * 0x100000001b3ull + 0x9e3779b97f4a7c15ull;
 }
 
-uint64_t Walk(const QRMDisplay& display)
+// A language-tagged text: QRMDisplay, or QRMDeviceApplicability.
+template <class Text>
+uint64_t WalkText(const Text& text, const char* what)
 {
-    QRMDisplay copy(display);
-    QRMDisplay assigned;
-    assigned = display;
-    Check((copy == display) != (copy != display), "QRMDisplay: != is not the negation of ==");
-    return Mix(Hash(display.GetLanguage()), Hash(assigned.GetValue()));
+    Text copy(text);
+    Text assigned;
+    assigned = text;
+    Check((copy == text) != (copy != text), what);
+    return Mix(Hash(text.GetLanguage()), Hash(assigned.GetValue()));
+}
+
+uint64_t Walk(const QRMDisplay& display) { return WalkText(display, "QRMDisplay: != is not the negation of =="); }
+
+uint64_t Walk(const QRMDeviceApplicability& entry)
+{
+    return WalkText(entry, "QRMDeviceApplicability: != is not the negation of ==");
 }
 
 // The texts of anything that carries them.
@@ -220,7 +231,9 @@ uint64_t Walk(const QRMPnPInfo& pnp)
     return Mix(h, CopyAndCompare(pnp, "QRMPnPInfo: != is not the negation of =="));
 }
 
-uint64_t Walk(const QRMDependency& dependency)
+// The fields a dependency and a soft dependency share.
+template <class Dependency>
+uint64_t WalkDependency(const Dependency& dependency)
 {
     uint64_t h = WalkTexts(dependency);
     h = Mix(h, dependency.GetType());
@@ -240,16 +253,21 @@ uint64_t Walk(const QRMDependency& dependency)
     for (const QRMPnPInfo& pnp : pnps) {
         h = Mix(h, Walk(pnp));
     }
-    return Mix(h, CopyAndCompare(dependency, "QRMDependency: != is not the negation of =="));
+    return h;
+}
+
+uint64_t Walk(const QRMDependency& dependency)
+{
+    return Mix(WalkDependency(dependency), CopyAndCompare(dependency, "QRMDependency: != is not the negation of =="));
 }
 
 uint64_t Walk(const QRMSoftDependency& dependency)
 {
-    uint64_t h = Walk(static_cast<const QRMDependency&>(dependency));
+    uint64_t h = WalkDependency(dependency);
     std::vector<QRMDeviceApplicability> applicability;
     dependency.GetApplicability(applicability);
     for (const QRMDeviceApplicability& entry : applicability) {
-        h = Mix(h, Walk(static_cast<const QRMDisplay&>(entry)));
+        h = Mix(h, Walk(entry));
     }
     return Mix(h, CopyAndCompare(dependency, "QRMSoftDependency: != is not the negation of =="));
 }
@@ -309,7 +327,7 @@ uint64_t Walk(const QRMDevice& device)
     std::vector<QRMDeviceApplicability> applicability;
     device.GetApplicability(applicability);
     for (const QRMDeviceApplicability& entry : applicability) {
-        h = Mix(h, Walk(static_cast<const QRMDisplay&>(entry)));
+        h = Mix(h, Walk(entry));
     }
     return Mix(h, CopyAndCompare(device, "QRMDevice: != is not the negation of =="));
 }
@@ -589,116 +607,6 @@ uint64_t Walk(const QRMISystem& system)
 
 // ---- Applicable updates ----
 
-namespace {
-
-std::u16string FileName(const VELString& path)
-{
-    const std::u16string& units = path.GetUTF16String();
-    std::size_t slash = units.rfind(u'/');
-    return slash == std::u16string::npos ? units : units.substr(slash + 1);
-}
-
-// A catalog PCI entry matches the device's vendor and device id, and its
-// sub-ids or has none (both 0).
-bool PCIMatches(const QRMPCIInfo& pci, const QRMIDevice& device)
-{
-    const bool ids = pci.GetDeviceID() == static_cast<unsigned int>(device.GetDeviceID()) &&
-                     pci.GetVendorID() == static_cast<unsigned int>(device.GetVendorID());
-    const bool subIDs = (pci.GetSubDeviceID() == static_cast<unsigned int>(device.GetSubDeviceID()) &&
-                         pci.GetSubVendorID() == static_cast<unsigned int>(device.GetSubVendorID())) ||
-                        (pci.GetSubVendorID() == 0 && pci.GetSubDeviceID() == 0);
-    return ids && subIDs;
-}
-
-bool Supports(const QRMSoftwareComponent& component, const QRMIDevice& device)
-{
-    std::vector<QRMDevice*> supported;
-    component.GetSupportedDevices(supported);
-    for (const QRMDevice* entry : supported) {
-        if (device.GetComponentID() != 0) {
-            if (entry->GetComponentID() == device.GetComponentID()) {
-                return true;
-            }
-            continue;
-        }
-        std::vector<QRMPCIInfo*> pcis;
-        entry->GetPCIInfo(pcis);
-        for (const QRMPCIInfo* pci : pcis) {
-            if (PCIMatches(*pci, device)) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
-// The selection rules written out plainly, as a walk over the bundle's
-// packages in order, the catalog's components in order, their supported
-// devices and PCI entries: the first match is kept and replaced only by a
-// newer one (CompareVersion exactly 1).
-class ReferenceMatcher {
-public:
-    ReferenceMatcher(QRMKitAPI& api, const QRMSoftwareBundle& bundle,
-                     const std::vector<QRMSoftwareComponent*>& components)
-        : mAPI(api)
-    {
-        std::vector<QRMBundleContent> packages;
-        bundle.GetContents(packages);
-        for (const QRMBundleContent& package : packages) {
-            const std::u16string path = package.GetPath().GetUTF16String();
-            for (QRMSoftwareComponent* component : components) {
-                if (FileName(component->GetPath()) == path) {
-                    mWalk.push_back(component);
-                }
-            }
-        }
-    }
-
-    QRMSoftwareComponent* Best(const QRMIDevice& device, const QRMIApplication& application) const
-    {
-        if (device.GetComponentID() == 2331) {
-            return nullptr;
-        }
-        QRMSoftwareComponent* best = nullptr;
-        for (QRMSoftwareComponent* component : mWalk) {
-            if (component->GetComponentType().GetValue() != application.GetComponentType()) {
-                continue;
-            }
-            std::vector<QRMDevice*> supported;
-            component->GetSupportedDevices(supported);
-            for (const QRMDevice* entry : supported) {
-                if (device.GetComponentID() != 0) {
-                    if (entry->GetComponentID() == device.GetComponentID()) {
-                        Offer(best, component);
-                    }
-                    continue;
-                }
-                std::vector<QRMPCIInfo*> pcis;
-                entry->GetPCIInfo(pcis);
-                for (const QRMPCIInfo* pci : pcis) {
-                    if (PCIMatches(*pci, device)) {
-                        Offer(best, component);
-                    }
-                }
-            }
-        }
-        return best;
-    }
-
-private:
-    void Offer(QRMSoftwareComponent*& best, QRMSoftwareComponent* component) const
-    {
-        if (best == nullptr || mAPI.CompareVersion(component->GetVendorVersion(), best->GetVendorVersion()) == 1) {
-            best = component;
-        }
-    }
-
-    QRMKitAPI& mAPI;
-    std::vector<QRMSoftwareComponent*> mWalk;
-};
-
-}  // namespace
-
 void CheckApplicableUpdates(QRMKitAPI& api, std::size_t firstCheckedDevice)
 {
     const bool catalogParsed = api.IsCatalogParsed();
@@ -721,23 +629,17 @@ void CheckApplicableUpdates(QRMKitAPI& api, std::size_t firstCheckedDevice)
     std::set<const QRMSoftwareComponent*> stored(components.begin(), components.end());
     std::vector<QRMSoftwareBundle*> bundles;
     api.GetSoftwareBundles(bundles);
-    const unsigned int systemID = api.GetSystemIDFromInventory();
 
     for (int type = QRM_BUNDLE_BTW32; type <= QRM_BUNDLE_BTOSIND + 1; ++type) {
         QRMBundleTypeEnum bundleType = static_cast<QRMBundleTypeEnum>(type);
 
         // The first bundle of the type that lists the system id; the
         // greatest number after the last "." of the bundle ids of the type.
-        const QRMSoftwareBundle* expectedBundle = nullptr;
+        const QRMSoftwareBundle* expectedBundle = reference::ApplicableBundle(api, bundleType);
         unsigned int greatest = 0;
         for (const QRMSoftwareBundle* candidate : bundles) {
             if (candidate->GetBundleType() != bundleType) {
                 continue;
-            }
-            std::vector<unsigned int> ids;
-            candidate->GetSupportedSystemIDs(ids);
-            if (expectedBundle == nullptr && std::find(ids.begin(), ids.end(), systemID) != ids.end()) {
-                expectedBundle = candidate;
             }
             const std::u16string id = candidate->GetBundleID().GetUTF16String();
             const std::size_t dot = id.rfind(u'.');
@@ -781,19 +683,19 @@ void CheckApplicableUpdates(QRMKitAPI& api, std::size_t firstCheckedDevice)
             Check(stored.count(entry.second) == 1, "GetApplicableUpdates: a value that is no stored component");
             Check(entry.second->GetComponentType().GetValue() == entry.first->GetComponentType(),
                   "GetApplicableUpdates: a component of another type than the application");
-            Check(packages.count(FileName(entry.second->GetPath())) == 1,
+            Check(packages.count(reference::FileName(entry.second->GetPath())) == 1,
                   "GetApplicableUpdates: a component whose file is not a package of the applicable bundle");
-            Check(Supports(*entry.second, *owner->second),
+            Check(reference::Supports(*entry.second, *owner->second),
                   "GetApplicableUpdates: a component that does not support the application's device");
         }
 
         // The whole answer, for the devices asked about, against the plain walk.
-        const ReferenceMatcher reference(api, *bundle, components);
+        const reference::Matcher matcher(api, *bundle, components);
         for (std::size_t i = firstCheckedDevice; i < devices.size(); ++i) {
             std::vector<QRMIApplication*> applications;
             devices[i]->GetApplications(applications);
             for (QRMIApplication* application : applications) {
-                QRMSoftwareComponent* best = reference.Best(*devices[i], *application);
+                QRMSoftwareComponent* best = matcher.Best(*devices[i], *application);
                 auto found = updates.find(application);
                 Check(best == (found == updates.end() ? nullptr : found->second),
                       "GetApplicableUpdates: not the newest of the components that the bundle, the device and "

@@ -1,11 +1,13 @@
 // GetApplicableUpdates answers from indexes built once per call. This test
-// keeps the plain nested-loop walk over (devices, applications, bundle
-// packages, catalog components, supported devices, PCI entries) as the
-// reference, and checks on many generated catalog and inventory pairs that
-// both give exactly the same map and the same result code.
+// checks on many generated catalog and inventory pairs that it gives
+// exactly the map and the result code of the plain walk over (devices,
+// applications, bundle packages, catalog components, supported devices, PCI
+// entries) that the tests and fuzz targets share as their reference
+// (tests/support/ReferenceUpdates.h).
 //
 // Every case runs in a child process of its own, because the inventory
 // store keeps what it read for the life of the process.
+#include "ReferenceUpdates.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -19,106 +21,7 @@
 
 namespace {
 
-typedef std::map<QRMIApplication*, QRMSoftwareComponent*> UpdateMap;
-
-VELString FileNameOf(const VELString& path)
-{
-    std::size_t slash = path.GetUTF16String().rfind(u'/');
-    if (slash == std::u16string::npos) {
-        return path;
-    }
-    return VELString(path.GetUTF16String().substr(slash + 1));
-}
-
-// The literal algorithm, through the public interface only.
-QRMKitReturnCode ReferenceApplicableUpdates(UpdateMap& updates, QRMBundleTypeEnum bundleType)
-{
-    QRMKitAPI* api = QRMKitAPI::Instance();
-    if (!api->IsCatalogParsed() || !api->IsInventoryParsed()) {
-        return QRM_KIT_FAILURE;
-    }
-    const unsigned int systemID = api->GetSystemIDFromInventory();
-    std::vector<QRMSoftwareBundle*> bundles;
-    api->GetSoftwareBundles(bundles);
-    QRMSoftwareBundle* bundle = nullptr;
-    for (QRMSoftwareBundle* candidate : bundles) {
-        if (bundle != nullptr || candidate->GetBundleType() != bundleType) {
-            continue;
-        }
-        std::vector<unsigned int> ids;
-        candidate->GetSupportedSystemIDs(ids);
-        for (unsigned int id : ids) {
-            if (id == systemID) {
-                bundle = candidate;
-                break;
-            }
-        }
-    }
-    if (bundle == nullptr) {
-        return QRM_KIT_FAILURE;
-    }
-    std::vector<QRMBundleContent> packages;
-    bundle->GetContents(packages);
-    std::vector<QRMSoftwareComponent*> components;
-    api->GetSoftwareComponents(components);
-    std::vector<QRMIDevice*> devices;
-    api->GetInventory(devices);
-
-    for (QRMIDevice* device : devices) {
-        const unsigned long long componentID = device->GetComponentID();
-        const unsigned int vendorID = static_cast<unsigned int>(device->GetVendorID());
-        const unsigned int deviceID = static_cast<unsigned int>(device->GetDeviceID());
-        const unsigned int subDeviceID = static_cast<unsigned int>(device->GetSubDeviceID());
-        const unsigned int subVendorID = static_cast<unsigned int>(device->GetSubVendorID());
-        std::vector<QRMIApplication*> applications;
-        device->GetApplications(applications);
-        for (QRMIApplication* application : applications) {
-            QRMSoftwareComponent* best = nullptr;
-            auto consider = [&](QRMSoftwareComponent* component) {
-                if (best == nullptr ||
-                    api->CompareVersion(component->GetVendorVersion(), best->GetVendorVersion()) == 1) {
-                    best = component;
-                }
-            };
-            if (componentID == 2331) {
-                continue;
-            }
-            for (const QRMBundleContent& package : packages) {
-                for (QRMSoftwareComponent* component : components) {
-                    if (FileNameOf(component->GetPath()) != package.GetPath()) {
-                        continue;
-                    }
-                    const bool sameType =
-                        application->GetComponentType() == component->GetComponentType().GetValue();
-                    std::vector<QRMDevice*> supported;
-                    component->GetSupportedDevices(supported);
-                    for (QRMDevice* catalogDevice : supported) {
-                        if (componentID != 0) {
-                            if (catalogDevice->GetComponentID() == componentID && sameType) {
-                                consider(component);
-                            }
-                            continue;
-                        }
-                        std::vector<QRMPCIInfo*> pciInfo;
-                        catalogDevice->GetPCIInfo(pciInfo);
-                        for (QRMPCIInfo* pci : pciInfo) {
-                            if (pci->GetDeviceID() == deviceID && pci->GetVendorID() == vendorID &&
-                                ((pci->GetSubDeviceID() == subDeviceID && pci->GetSubVendorID() == subVendorID) ||
-                                 (pci->GetSubVendorID() == 0 && pci->GetSubDeviceID() == 0)) &&
-                                sameType) {
-                                consider(component);
-                            }
-                        }
-                    }
-                }
-            }
-            if (best != nullptr) {
-                updates[application] = best;
-            }
-        }
-    }
-    return QRM_KIT_SUCCESS;
-}
+using reference::UpdateMap;
 
 const char* const kTypes[] = {"SBDL", "FRMW", "BIOS", "APAC", "APP", "DRVR"};
 const char* const kBundleTypes[] = {"BTW64", "BTW64", "BTLX"};
@@ -223,13 +126,13 @@ std::string RunCase(unsigned int seed)
         return "the generated documents do not read";
     }
     UpdateMap fast;
-    UpdateMap reference;
+    UpdateMap expected;
     QRMKitReturnCode fastCode = api->GetApplicableUpdates(fast, QRM_OS_ARCH_X64, bundleType);
-    QRMKitReturnCode referenceCode = ReferenceApplicableUpdates(reference, bundleType);
-    if (fastCode != referenceCode || fast != reference) {
+    QRMKitReturnCode referenceCode = reference::ApplicableUpdates(*api, expected, bundleType);
+    if (fastCode != referenceCode || fast != expected) {
         std::ostringstream report;
         report << "codes " << fastCode << " / " << referenceCode << ", entries " << fast.size() << " / "
-               << reference.size() << "\n"
+               << expected.size() << "\n"
                << catalog.str() << inventory.str();
         return report.str();
     }
