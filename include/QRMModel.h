@@ -39,6 +39,10 @@ public:
     QRMKitReturnCode AddDisplayValue(VELString language, VELString value);
     QRMKitReturnCode RemoveDisplayValue(const VELString& language);
     void GetDisplayValues(std::vector<QRMDisplay>& out) const;
+
+    // A model has no equality of its own: brands match their models by
+    // identity (see QRMBrand::operator==).
+
 private:
     qrm::detail::DisplayTexts mTexts;
     unsigned int mSystemID;

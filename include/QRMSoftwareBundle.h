@@ -62,7 +62,7 @@ public:
     QRMBundleTypeEnum GetBundleType() const;
     QRMKitReturnCode SetBundleType(QRMBundleTypeEnum value);
 
-    // The description's texts, under the rules of every display list.
+    // The description's texts, under the display-text rule (QRMDisplay.h).
     void GetDescriptionDisplayValues(std::vector<QRMDisplay>& out) const;
     QRMKitReturnCode AddDescriptionDisplayValue(VELString language, VELString value);
     QRMKitReturnCode RemoveDescriptionDisplayValue(const VELString& language);
