@@ -3,8 +3,8 @@
 // A process-wide singleton that owns, through two static stores, everything
 // that parsing produces: the catalog store (emptied by Reset and by every
 // Parse) and the inventory store (filled by ParseInventory, never emptied).
-// The library starts no threads and takes no locks: callers serialise every
-// call.
+// The library starts no threads and, apart from a guard on the first
+// Instance(), takes no locks: callers serialise every call.
 #ifndef QRMKIT_API_H
 #define QRMKIT_API_H
 
