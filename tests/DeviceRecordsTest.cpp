@@ -585,9 +585,16 @@ TEST(QRMRollbackInformation, CopyAndAssignmentCarryEveryField)
 
 // ---- QRMDependency
 
-TEST(QRMDependencyFields, NewDependencyHasZeroNumbersEmptyTextsNilIdentifierAndEmptyLists)
+// The fields a dependency holds, and a soft dependency holds in the same
+// way: both classes run every test of this suite.
+template <class Dependency>
+class DependencyFields : public ::testing::Test {};
+using DependencyClasses = ::testing::Types<QRMDependency, QRMSoftDependency>;
+TYPED_TEST_SUITE(DependencyFields, DependencyClasses);
+
+TYPED_TEST(DependencyFields, NewDependencyHasZeroNumbersEmptyTextsNilIdentifierAndEmptyLists)
 {
-    QRMDependency dependency;
+    TypeParam dependency;
     EXPECT_EQ(0u, dependency.GetType());
     EXPECT_EQ("", U8(dependency.GetName()));
     EXPECT_EQ("", U8(dependency.GetVersion()));
@@ -600,9 +607,9 @@ TEST(QRMDependencyFields, NewDependencyHasZeroNumbersEmptyTextsNilIdentifierAndE
     EXPECT_TRUE(PnPOf(dependency).empty());
 }
 
-TEST(QRMDependencyFields, SettersReturnSuccessAndStoreEveryField)
+TYPED_TEST(DependencyFields, SettersReturnSuccessAndStoreEveryField)
 {
-    QRMDependency dependency;
+    TypeParam dependency;
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.SetType(3));
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.SetName("Runtime"));
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.SetVersion("4.5"));
@@ -619,9 +626,9 @@ TEST(QRMDependencyFields, SettersReturnSuccessAndStoreEveryField)
     EXPECT_EQ(6u, dependency.GetFlags());
 }
 
-TEST(QRMDependencyFields, AddPCIInfoReturnsSuccessThenAlreadyExistsAndGetPCIInfoAppendsCopies)
+TYPED_TEST(DependencyFields, AddPCIInfoReturnsSuccessThenAlreadyExistsAndGetPCIInfoAppendsCopies)
 {
-    QRMDependency dependency;
+    TypeParam dependency;
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.AddPCIInfo(MakePCI(1, 2, 3, 4)));
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, dependency.AddPCIInfo(MakePCI(1, 2, 3, 4)));
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.AddPCIInfo(MakePCI(1, 2, 3, 5)));
@@ -633,9 +640,9 @@ TEST(QRMDependencyFields, AddPCIInfoReturnsSuccessThenAlreadyExistsAndGetPCIInfo
     EXPECT_TRUE(out[2] == MakePCI(1, 2, 3, 5));
 }
 
-TEST(QRMDependencyFields, AddPnPInfoReturnsSuccessThenAlreadyExistsAndGetPnPInfoAppendsCopies)
+TYPED_TEST(DependencyFields, AddPnPInfoReturnsSuccessThenAlreadyExistsAndGetPnPInfoAppendsCopies)
 {
-    QRMDependency dependency;
+    TypeParam dependency;
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.AddPnPInfo(MakePnP(1)));
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, dependency.AddPnPInfo(MakePnP(1)));
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.AddPnPInfo(MakePnP(2)));
@@ -647,9 +654,9 @@ TEST(QRMDependencyFields, AddPnPInfoReturnsSuccessThenAlreadyExistsAndGetPnPInfo
     EXPECT_TRUE(out[2] == MakePnP(2));
 }
 
-TEST(QRMDependencyFields, DisplayValuesFollowTheOneTextPerLanguageRule)
+TYPED_TEST(DependencyFields, DisplayValuesFollowTheOneTextPerLanguageRule)
 {
-    QRMDependency dependency;
+    TypeParam dependency;
     EXPECT_EQ(QRM_KIT_SUCCESS, dependency.AddDisplayValue("en", "Runtime"));
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, dependency.AddDisplayValue("en", "Other"));
     EXPECT_EQ(QRM_KIT_NOT_FOUND, dependency.RemoveDisplayValue("de"));

@@ -27,6 +27,12 @@ template <class A, class B>
 struct EqualityCompiles<A, B, std::void_t<decltype(std::declval<const A&>() == std::declval<const B&>())>>
     : std::true_type {};
 
+template <class Node, class = void>
+struct HasNavigationByValue : std::false_type {};
+template <class Node>
+struct HasNavigationByValue<Node, std::void_t<decltype(std::declval<const Node&>().FirstChildElement())>>
+    : std::true_type {};
+
 template <class A, class B>
 constexpr bool Related = std::is_convertible_v<const A&, const B&> || std::is_convertible_v<const B&, const A&>;
 
@@ -75,4 +81,14 @@ TEST(PublicContract, NoValueClassConvertsToAnother)
     EXPECT_EQ(QRM_KIT_SUCCESS, soft.AddDisplayValue("en", "Text"));
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, soft.AddDisplayValue("en", "Other"));
     EXPECT_EQ("Utility", soft.GetName().GetUTF8String());
+}
+
+TEST(PublicContract, DocumentNodesComeOnlyFromTheirDocument)
+{
+    // A node is handed out by its document and answers the documented
+    // queries; how it reaches the parser is not part of the contract.
+    static_assert(!std::is_default_constructible_v<VELXMLNode>);
+    static_assert(!HasNavigationByValue<VELXMLNode>::value);
+    VELXMLDocument document;
+    EXPECT_EQ(nullptr, document.GetRoot());
 }

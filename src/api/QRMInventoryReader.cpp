@@ -13,7 +13,7 @@
 #include <memory>
 #include <string_view>
 
-using qrm::AttributeNumber;
+using qrm::ReadAttributeNumber;
 using qrm::Failed;
 using qrm::ReadAttribute;
 using qrm::detail::XmlElement;
@@ -48,7 +48,8 @@ QRMKitReturnCode SetIfPresent(const XmlElement& node, const char* name, Set set)
 template <class Set>
 QRMKitReturnCode SetNumberIfPresent(const XmlElement& node, const char* name, unsigned int base, Set set)
 {
-    return node.GetAttributeText(name) != nullptr ? set(AttributeNumber(node, name, base)) : QRM_KIT_SUCCESS;
+    unsigned int value = 0;
+    return ReadAttributeNumber(node, name, base, value) ? set(value) : QRM_KIT_SUCCESS;
 }
 
 QRMKitReturnCode ReadOperatingSystem(const XmlElement& node, QRMIInventory& inventory)
@@ -93,10 +94,11 @@ QRMKitReturnCode ReadSystem(const XmlElement& node, QRMIInventory& inventory)
     if (Failed(AddLanguageDisplays(node, system))) {
         return QRM_KIT_FAILURE;
     }
-    VELString text;
-    if (!ReadAttribute(node, "systemID", text) || Failed(system.SetSystemID(text.GetIntValue(std::hex)))) {
+    unsigned int systemID = 0;
+    if (!ReadAttributeNumber(node, "systemID", 16, systemID) || Failed(system.SetSystemID(systemID))) {
         return QRM_KIT_FAILURE;
     }
+    VELString text;
     QRMSystemIDTypeEnum type = QRM_SYSTEMID_TYPE_BIOS;
     if (ReadAttribute(node, "systemIDType", text)) {
         QRMSystemIDTypeFromText(text, type);
@@ -202,8 +204,9 @@ try {
     if (ReadAttribute(root, "schemaVersion", text)) {
         mInventory.SetSchemaVersion(text);
     }
-    if (root.GetAttributeText("timeStamp") != nullptr) {
-        mInventory.SetTimeStamp(VELTime(AttributeNumber(root, "timeStamp", 10)));
+    unsigned int timeStamp = 0;
+    if (ReadAttributeNumber(root, "timeStamp", 10, timeStamp)) {
+        mInventory.SetTimeStamp(VELTime(timeStamp));
     }
 
     // The application type carries over from one Application to the next

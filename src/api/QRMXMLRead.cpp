@@ -106,6 +106,16 @@ unsigned int AttributeNumber(const XmlElement& node, const char* name, unsigned 
     return NumberOf(node.GetAttributeText(name), base);
 }
 
+bool ReadAttributeNumber(const XmlElement& node, const char* name, unsigned int base, unsigned int& value)
+{
+    const char* text = node.GetAttributeText(name);
+    if (text == nullptr) {
+        return false;
+    }
+    value = NumberOf(text, base);
+    return true;
+}
+
 unsigned int AttributeNumber(const Element& element, const char* name, unsigned int base)
 {
     return NumberOf(element.Text(name), base);

@@ -37,6 +37,11 @@ bool ReadAttribute(const XmlElement& node, const char* name, VELString& value);
 // text does (0).
 unsigned int AttributeNumber(const XmlElement& node, const char* name, unsigned int base);
 
+// When the element has the attribute, writes its number (as AttributeNumber
+// reads it) into `value` and returns true; otherwise returns false and
+// leaves `value`.
+bool ReadAttributeNumber(const XmlElement& node, const char* name, unsigned int base, unsigned int& value);
+
 // One element with its attributes and child elements gathered in a single
 // pass, for the elements the readers query many times by name (a component,
 // a bundle, an operating system): each query then scans a short local list

@@ -148,11 +148,10 @@ unsigned int VELString::GetIntValue(NumberBase base) const
 {
     // The base is what the manipulator sets on a stream, not its address: a
     // program's std::dec need not have the address the library sees, and
-    // every caller must get the number the library's own readers get.
+    // every caller must get the number the library's own readers get. (The
+    // address test only spares the library's own decimal reads the probe.)
     std::ios_base::fmtflags field = std::ios_base::dec;
-    if (base == static_cast<NumberBase>(std::hex)) {
-        field = std::ios_base::hex;
-    } else if (base != nullptr && base != static_cast<NumberBase>(std::dec)) {
+    if (base != nullptr && base != static_cast<NumberBase>(std::dec)) {
         std::ios probe(nullptr);
         base(probe);
         field = probe.flags() & std::ios_base::basefield;

@@ -113,11 +113,6 @@ void LoadInventory(const std::string& path) { Load(path, false); }
 
 std::string Utf8(const VELString& text) { return text.GetUTF8String(); }
 
-std::string FirstText(const std::vector<QRMDisplay>& texts)
-{
-    return texts.empty() ? std::string() : Utf8(texts.front().GetValue());
-}
-
 std::string Hex(unsigned long long value, int digits)
 {
     char buffer[32];

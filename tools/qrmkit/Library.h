@@ -9,6 +9,7 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace qrmtool {
 
@@ -60,15 +61,14 @@ constexpr std::array<QRMCriticalityValueEnum, 4> kCriticalities = {
     QRM_CRITICALITY_LEVEL1, QRM_CRITICALITY_LEVEL2, QRM_CRITICALITY_LEVEL3, QRM_CRITICALITY_UNSPECIFIED};
 
 std::string Utf8(const VELString& text);
-// The value of the first text ("" when there is none).
-std::string FirstText(const std::vector<QRMDisplay>& texts);
-// The value of the first text of anything that carries texts.
+// The value of the first text of anything that carries texts ("" when it
+// has none).
 template <class Holder>
 std::string FirstText(const Holder& holder)
 {
     std::vector<QRMDisplay> texts;
     holder.GetDisplayValues(texts);
-    return FirstText(texts);
+    return texts.empty() ? std::string() : Utf8(texts.front().GetValue());
 }
 // Upper-case hexadecimal with at least `digits` digits ("0A6B").
 std::string Hex(unsigned long long value, int digits = 4);
