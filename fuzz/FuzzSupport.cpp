@@ -147,10 +147,7 @@ namespace {
 
 volatile uint64_t gSink = 0;
 
-uint64_t Mix(uint64_t seed, uint64_t value)
-{
-    return (seed ^ value) * 0x100000001b3ull + 0x9e3779b97f4a7c15ull;
-}
+uint64_t Mix(uint64_t seed, uint64_t value) { return (seed ^ value) * 0x100000001b3ull + 0x9e3779b97f4a7c15ull; }
 
 // A language-tagged text: QRMDisplay, or QRMDeviceApplicability.
 template <class Text>
@@ -420,10 +417,7 @@ uint64_t Walk(const QRMBundleContent& content)
 
 }  // namespace
 
-uint64_t Hash(const VELString& text)
-{
-    return std::hash<std::u16string>()(text.GetUTF16String()) ^ text.GetLength();
-}
+uint64_t Hash(const VELString& text) { return std::hash<std::u16string>()(text.GetUTF16String()) ^ text.GetLength(); }
 
 void Consume(uint64_t value) { gSink = gSink + value; }
 
@@ -679,7 +673,8 @@ void CheckApplicableUpdates(QRMKitAPI& api, std::size_t firstCheckedDevice)
             }
             auto owner = owners.find(entry.first);
             Check(owner != owners.end(), "GetApplicableUpdates: a key that is no stored application");
-            Check(owner->second->GetComponentID() != 2331, "GetApplicableUpdates: a device with component id 2331 was matched");
+            Check(owner->second->GetComponentID() != 2331,
+                  "GetApplicableUpdates: a device with component id 2331 was matched");
             Check(stored.count(entry.second) == 1, "GetApplicableUpdates: a value that is no stored component");
             Check(entry.second->GetComponentType().GetValue() == entry.first->GetComponentType(),
                   "GetApplicableUpdates: a component of another type than the application");

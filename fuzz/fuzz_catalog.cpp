@@ -67,10 +67,8 @@ void CheckInventoryComponents(QRMKitAPI& api, bool parsed, std::size_t& expected
             Check(found == nullptr, "GetInventoryComponent: an entry for a code the catalog does not hold");
             Check(file.IsEmpty(), "GetInventoryFile: a path for a code the catalog does not hold");
         } else {
-            Check(found != nullptr && *found == *first,
-                  "GetInventoryComponent: not the first entry with that code");
-            Check(file == base + "/" + first->GetPath(),
-                  "GetInventoryFile: not the base location, \"/\" and the path");
+            Check(found != nullptr && *found == *first, "GetInventoryComponent: not the first entry with that code");
+            Check(file == base + "/" + first->GetPath(), "GetInventoryFile: not the base location, \"/\" and the path");
         }
         delete found;
     }
@@ -92,7 +90,8 @@ void CheckCategories(QRMKitAPI& api)
     api.GetAcronymForCategoryValues(again);
     Check(acronyms == again, "GetAcronymForCategoryValues: a second call gives another map");
     for (const auto& entry : acronyms) {
-        Check(texts.count(entry.second) == 1, "GetAcronymForCategoryValues: an acronym for a text that no category has");
+        Check(texts.count(entry.second) == 1,
+              "GetAcronymForCategoryValues: an acronym for a text that no category has");
         Consume(Hash(entry.first));
     }
 
@@ -195,8 +194,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         api->GetSoftwareComponents(leftComponents);
         api->GetSoftwareBundles(leftBundles);
         api->GetInventoryComponents(leftEntries);
-        Check(leftComponents.empty() && leftBundles.empty() && leftEntries.empty(),
-              "Reset: entries are still held");
+        Check(leftComponents.empty() && leftBundles.empty() && leftEntries.empty(), "Reset: entries are still held");
     }
     return 0;
 }

@@ -94,8 +94,7 @@ void CheckPair(QRMKitAPI& api, const VELString& first, const VELString& second)
 {
     const int forward = api.CompareVersion(first, second);
     const int backward = api.CompareVersion(second, first);
-    Check(forward >= -2 && forward <= 1 && backward >= -2 && backward <= 1,
-          "CompareVersion: a result outside -2..1");
+    Check(forward >= -2 && forward <= 1 && backward >= -2 && backward <= 1, "CompareVersion: a result outside -2..1");
     Check(api.CompareVersion(first, first) == 0 && api.CompareVersion(second, second) == 0,
           "CompareVersion: a text does not equal itself");
     Check((forward == -2) == (backward == -2), "CompareVersion: -2 in one order only");

@@ -169,7 +169,8 @@ void CheckConversions(const std::string& bytes, const std::u16string& raw)
                   !(terminated.c_str() != fromCString) && !(fromCString != terminated.c_str()),
               "operator== with a literal: a text differs from the literal it was made from");
     }
-    Check((terminated.c_str() == units) == (fromCString == units), "operator== with a literal: not the equality of texts");
+    Check((terminated.c_str() == units) == (fromCString == units),
+          "operator== with a literal: not the equality of texts");
 
     // Concatenation.
     Check((units + "x").GetUTF16String() == raw + u"x" && ("0" + units).GetUTF16String() == u"0" + raw,

@@ -3,8 +3,8 @@
 #define QRMKIT_BRAND_H
 
 #include "QRMDisplay.h"
-#include "detail/QRMDisplayTexts.h"
 #include "QRMModel.h"
+#include "detail/QRMDisplayTexts.h"
 #include "detail/QRMOwnedList.h"
 
 #include <vector>

@@ -4,11 +4,11 @@
 #define QRMKIT_DEPENDENCY_H
 
 #include "QRMDisplay.h"
-#include "detail/QRMDisplayTexts.h"
-#include "detail/QRMOwnedList.h"
 #include "QRMPCIInfo.h"
 #include "QRMPnPInfo.h"
 #include "VELGUID.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
 
 #include <vector>
 

@@ -8,14 +8,14 @@
 #include "QRMDependency.h"
 #include "QRMDeviceApplicability.h"
 #include "QRMDisplay.h"
-#include "detail/QRMDisplayTexts.h"
-#include "detail/QRMOwnedList.h"
 #include "QRMPCIInfo.h"
 #include "QRMPnPInfo.h"
 #include "QRMRollbackInformation.h"
-#include "detail/QRMSeldom.h"
 #include "QRMSoftDependency.h"
 #include "QRMSubComponent.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
+#include "detail/QRMSeldom.h"
 
 #include <vector>
 

@@ -4,9 +4,9 @@
 #define QRMKIT_I_APPLICATION_H
 
 #include "QRMDisplay.h"
-#include "detail/QRMDisplayTexts.h"
 #include "QRMKitTypes.h"
 #include "VELString.h"
+#include "detail/QRMDisplayTexts.h"
 
 class QRMKIT_API QRMIApplication {
 public:

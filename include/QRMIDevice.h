@@ -4,11 +4,11 @@
 #define QRMKIT_I_DEVICE_H
 
 #include "QRMDisplay.h"
-#include "detail/QRMDisplayTexts.h"
 #include "QRMIApplication.h"
 #include "QRMKitTypes.h"
-#include "detail/QRMApplicationList.h"
 #include "VELString.h"
+#include "detail/QRMApplicationList.h"
+#include "detail/QRMDisplayTexts.h"
 
 #include <vector>
 

@@ -4,9 +4,9 @@
 #define QRMKIT_I_SYSTEM_H
 
 #include "QRMDisplay.h"
-#include "detail/QRMDisplayTexts.h"
 #include "QRMKitTypes.h"
 #include "VELString.h"
+#include "detail/QRMDisplayTexts.h"
 
 class QRMKIT_API QRMISystem {
 public:

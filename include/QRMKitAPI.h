@@ -58,8 +58,7 @@ public:
     // and return null or an empty text.
     // A new copy of the first inventory component whose code equals `osCode`
     // (the caller deletes it), or null.
-    const QRMInventoryComponent* GetInventoryComponent(QRMOSArchitectureEnum architecture,
-                                                       VELString osCode) const;
+    const QRMInventoryComponent* GetInventoryComponent(QRMOSArchitectureEnum architecture, VELString osCode) const;
     // The base location + "/" + the component's path, joined as they stand;
     // empty when no component has that code.
     VELString GetInventoryFile(QRMOSArchitectureEnum architecture, VELString osCode) const;
@@ -103,8 +102,7 @@ public:
     // no bundle applies or memory runs out. Keys and values stay owned by
     // the stores.
     QRMKitReturnCode GetApplicableUpdates(std::map<QRMIApplication*, QRMSoftwareComponent*>& updates,
-                                          QRMOSArchitectureEnum osArchitecture,
-                                          QRMBundleTypeEnum bundleType) const;
+                                          QRMOSArchitectureEnum osArchitecture, QRMBundleTypeEnum bundleType) const;
 
     // Category code to category text, as gathered from every catalog read
     // since the library was loaded (kept for compatibility: a reset or a new

@@ -5,13 +5,13 @@
 #define QRMKIT_EXPORT_H
 
 #if defined(_WIN32)
-#  if defined(QRMKIT_BUILDING)
-#    define QRMKIT_API __declspec(dllexport)
-#  else
-#    define QRMKIT_API __declspec(dllimport)
-#  endif
+#if defined(QRMKIT_BUILDING)
+#define QRMKIT_API __declspec(dllexport)
 #else
-#  define QRMKIT_API __attribute__((visibility("default")))
+#define QRMKIT_API __declspec(dllimport)
+#endif
+#else
+#define QRMKIT_API __attribute__((visibility("default")))
 #endif
 
 #define VEL_API QRMKIT_API

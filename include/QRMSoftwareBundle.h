@@ -6,17 +6,17 @@
 
 #include "QRMBundleContent.h"
 #include "QRMComponentType.h"
-#include "detail/QRMDisplayTexts.h"
 #include "QRMImportantInfo.h"
 #include "QRMKitTypes.h"
 #include "QRMName.h"
-#include "detail/QRMOwnedList.h"
 #include "QRMRevisionHistory.h"
 #include "QRMSupportedOperatingSystems.h"
 #include "QRMSupportedSystems.h"
 #include "VELGUID.h"
 #include "VELString.h"
 #include "VELTime.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
 
 #include <vector>
 

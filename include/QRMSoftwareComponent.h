@@ -9,23 +9,23 @@
 #include "QRMComponentType.h"
 #include "QRMCriticality.h"
 #include "QRMDevice.h"
-#include "detail/QRMDisplayTexts.h"
 #include "QRMFMPWrapperInformation.h"
 #include "QRMImportantInfo.h"
 #include "QRMInstallInstruction.h"
 #include "QRMKitTypes.h"
 #include "QRMLUCategory.h"
 #include "QRMName.h"
-#include "detail/QRMOwnedList.h"
-#include "detail/QRMSeldom.h"
 #include "QRMRevisionHistory.h"
 #include "QRMSupportedOperatingSystems.h"
 #include "QRMSupportedSystems.h"
 #include "VELGUID.h"
 #include "VELString.h"
+#include "detail/QRMDisplayTexts.h"
+#include "detail/QRMOwnedList.h"
+#include "detail/QRMSeldom.h"
 
-#include <string_view>
 #include "VELTime.h"
+#include <string_view>
 
 #include <vector>
 

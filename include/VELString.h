@@ -14,9 +14,9 @@
 #include "QRMKitExport.h"
 
 #include <cstddef>
-#include <ios>
 #include <cstdint>
 #include <cstring>
+#include <ios>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -92,9 +92,8 @@ public:
     // bytes, may be null) receives each selection as bytes while it is
     // built, non-ASCII code units written as '?'; the selections appended to
     // `out` always carry the original code units.
-    void ListCombinationsOfString(char* buffer, unsigned int start, unsigned int end,
-                                  unsigned int index, unsigned int size,
-                                  std::vector<VELString>& out) const;
+    void ListCombinationsOfString(char* buffer, unsigned int start, unsigned int end, unsigned int index,
+                                  unsigned int size, std::vector<VELString>& out) const;
 
 private:
     // mSlots[7] tells the two forms apart. Held in place: mSlots[0..6] are

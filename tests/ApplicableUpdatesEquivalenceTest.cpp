@@ -27,8 +27,8 @@ const char* const kTypes[] = {"SBDL", "FRMW", "BIOS", "APAC", "APP", "DRVR"};
 const char* const kBundleTypes[] = {"BTW64", "BTW64", "BTLX"};
 // Versions that tie, order by field count, pad with zeros, hold letters, or
 // cannot be compared at all.
-const char* const kVersions[] = {"1.0",  "1.0.0", "1.2", "1.10", "2.1", "2.1.0", "01.2",
-                                 "A5",   "A05",   "3",   "",     "1.\xC3\xA9", "1-2", "1_10"};
+const char* const kVersions[] = {"1.0", "1.0.0", "1.2", "1.10", "2.1",        "2.1.0", "01.2",
+                                 "A5",  "A05",   "3",   "",     "1.\xC3\xA9", "1-2",   "1_10"};
 const char* const kFiles[] = {"PKG_A.EXE", "PKG_B.EXE", "PKG_C.EXE", "pkg_a.exe", "PKG_D.BIN"};
 const unsigned long long kComponentIDs[] = {0, 0, 2331, 159, 1000, 1001};
 const char* const kIDs[] = {"0001", "0002"};
@@ -42,10 +42,7 @@ const T& Pick(std::mt19937& random, const T (&values)[N])
     return values[std::uniform_int_distribution<std::size_t>(0, N - 1)(random)];
 }
 
-int Between(std::mt19937& random, int low, int high)
-{
-    return std::uniform_int_distribution<int>(low, high)(random);
-}
+int Between(std::mt19937& random, int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); }
 
 void WriteCatalog(std::mt19937& random, std::ostream& out)
 {
@@ -90,14 +87,13 @@ void WriteInventory(std::mt19937& random, std::ostream& out)
     out << "<Inventory lang=\"en\"><System systemID=\"" << Pick(random, kSystems) << "\"/>\n";
     const int devices = Between(random, 0, 10);
     for (int d = 0; d < devices; ++d) {
-        out << "<Device display=\"dev" << d << "\" componentID=\"" << Pick(random, kComponentIDs)
-            << "\" vendorID=\"" << Pick(random, kIDs) << "\" deviceID=\"" << Pick(random, kIDs)
-            << "\" subVendorID=\"" << Pick(random, kSubVendors) << "\" subDeviceID=\"" << Pick(random, kSubDevices)
-            << "\">";
+        out << "<Device display=\"dev" << d << "\" componentID=\"" << Pick(random, kComponentIDs) << "\" vendorID=\""
+            << Pick(random, kIDs) << "\" deviceID=\"" << Pick(random, kIDs) << "\" subVendorID=\""
+            << Pick(random, kSubVendors) << "\" subDeviceID=\"" << Pick(random, kSubDevices) << "\">";
         const int applications = Between(random, 1, 3);
         for (int a = 0; a < applications; ++a) {
-            out << "<Application componentType=\"" << Pick(random, kTypes) << "\" version=\""
-                << Pick(random, kVersions) << "\" display=\"app" << a << "\"/>";
+            out << "<Application componentType=\"" << Pick(random, kTypes) << "\" version=\"" << Pick(random, kVersions)
+                << "\" display=\"app" << a << "\"/>";
         }
         out << "</Device>\n";
     }
@@ -116,8 +112,9 @@ std::string RunCase(unsigned int seed)
     WriteInventory(random, inventory);
     // Mostly BTW64; BTW32 has no bundle and gives the failure answer.
     const int typeDraw = Between(random, 0, 9);
-    const QRMBundleTypeEnum bundleType =
-        typeDraw == 0 ? QRM_BUNDLE_BTW32 : typeDraw == 1 ? QRM_BUNDLE_BTLX : QRM_BUNDLE_BTW64;
+    const QRMBundleTypeEnum bundleType = typeDraw == 0   ? QRM_BUNDLE_BTW32
+                                         : typeDraw == 1 ? QRM_BUNDLE_BTLX
+                                                         : QRM_BUNDLE_BTW64;
 
     TempDir directory;
     QRMKitAPI* api = QRMKitAPI::Instance();
@@ -139,8 +136,7 @@ std::string RunCase(unsigned int seed)
     return fastCode == QRM_KIT_SUCCESS ? "=" + std::to_string(fast.size()) : std::string("=-");
 }
 
-class ApplicableUpdatesEquivalence : public testing::TestWithParam<unsigned int> {
-};
+class ApplicableUpdatesEquivalence : public testing::TestWithParam<unsigned int> {};
 
 const unsigned int kCasesPerTest = 120;
 

@@ -39,17 +39,22 @@ std::string ComponentXML(const std::string& packageID, const std::string& path, 
         }
         supported += ">";
         for (const PCIEntry& pci : device.pci) {
-            supported += "<PCIInfo vendorID=\"" + pci.vendorID + "\" deviceID=\"" + pci.deviceID +
-                         "\" subVendorID=\"" + pci.subVendorID + "\" subDeviceID=\"" + pci.subDeviceID + "\"/>";
+            supported += "<PCIInfo vendorID=\"" + pci.vendorID + "\" deviceID=\"" + pci.deviceID + "\" subVendorID=\"" +
+                         pci.subVendorID + "\" subDeviceID=\"" + pci.subDeviceID + "\"/>";
         }
         supported += "<Display lang=\"en\">Device</Display></Device>";
     }
     return "<SoftwareComponent packageID=\"" + packageID + "\" path=\"" + path + "\" vendorVersion=\"" + version +
            "\">"
-           "<Name><Display lang=\"en\">Package " + packageID + "</Display></Name>"
-           "<ComponentType value=\"" + type + "\"/>"
+           "<Name><Display lang=\"en\">Package " +
+           packageID +
+           "</Display></Name>"
+           "<ComponentType value=\"" +
+           type +
+           "\"/>"
            "<Category value=\"UT\"><Display lang=\"en\"><![CDATA[Updates]]></Display></Category>"
-           "<SupportedDevices>" + supported + "</SupportedDevices></SoftwareComponent>";
+           "<SupportedDevices>" +
+           supported + "</SupportedDevices></SoftwareComponent>";
 }
 
 // A component of the given type for the devices with that component id.
@@ -67,12 +72,15 @@ std::string BundleXML(const std::string& bundleType, const std::string& systemID
     for (const std::string& path : packages) {
         contents += "<Package path=\"" + path + "\" packageID=\"P-" + path + "\"/>";
     }
-    return "<SoftwareBundle bundleID=\"B." + bundleType + "\" bundleType=\"" + bundleType + "\">"
+    return "<SoftwareBundle bundleID=\"B." + bundleType + "\" bundleType=\"" + bundleType +
+           "\">"
            "<Name><Display lang=\"en\">Bundle</Display></Name>"
            "<ComponentType value=\"SBDL\"/>"
-           "<TargetSystems><Brand key=\"3\" prefix=\"SRV\"><Model systemID=\"" + systemID +
+           "<TargetSystems><Brand key=\"3\" prefix=\"SRV\"><Model systemID=\"" +
+           systemID +
            "\"/></Brand></TargetSystems>"
-           "<Contents>" + contents + "</Contents></SoftwareBundle>";
+           "<Contents>" +
+           contents + "</Contents></SoftwareBundle>";
 }
 
 std::string CatalogOf(const std::string& entries)
@@ -114,7 +122,8 @@ std::string PCIDevice(const std::vector<App>& apps)
 std::string InventoryOf(const std::string& systemID, const std::string& devices)
 {
     return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<SVMInventory lang=\"en\">"
-           "<System systemID=\"" + systemID + "\" display=\"Server\"/>" + devices + "</SVMInventory>\n";
+           "<System systemID=\"" +
+           systemID + "\" display=\"Server\"/>" + devices + "</SVMInventory>\n";
 }
 
 // The result as application display -> component package id.
@@ -260,10 +269,9 @@ TEST_F(ApplicableUpdates, DeviceWithoutComponentIDIsNotMatchedByCatalogComponent
 
 TEST_F(ApplicableUpdates, DeviceWithComponentIDIsMatchedByComponentIDAndNotByPCIIDs)
 {
-    const std::string device =
-        DeviceXML("componentID=\"500\" vendorID=\"106B\" deviceID=\"04D2\" subVendorID=\"0007\" "
-                  "subDeviceID=\"0009\" display=\"Controller\"",
-                  {{"FRMW", "1.0", "controller firmware"}});
+    const std::string device = DeviceXML("componentID=\"500\" vendorID=\"106B\" deviceID=\"04D2\" subVendorID=\"0007\" "
+                                         "subDeviceID=\"0009\" display=\"Controller\"",
+                                         {{"FRMW", "1.0", "controller firmware"}});
     Load(BundleXML("BTW64", "0A6B", {"BYPCI.EXE", "BYID.EXE"}) +
              ComponentXML("BYPCI", "BYPCI.EXE", "FRMW", "9.0", {{"501", {{"106B", "04D2", "0007", "0009"}}}}) +
              ComponentForID("BYID", "BYID.EXE", "FRMW", "1.0", "500"),
@@ -273,10 +281,9 @@ TEST_F(ApplicableUpdates, DeviceWithComponentIDIsMatchedByComponentIDAndNotByPCI
 
 TEST_F(ApplicableUpdates, DeviceWithComponentIDIgnoresMatchingPCIEntry)
 {
-    const std::string device =
-        DeviceXML("componentID=\"500\" vendorID=\"106B\" deviceID=\"04D2\" subVendorID=\"0007\" "
-                  "subDeviceID=\"0009\" display=\"Controller\"",
-                  {{"FRMW", "1.0", "controller firmware"}});
+    const std::string device = DeviceXML("componentID=\"500\" vendorID=\"106B\" deviceID=\"04D2\" subVendorID=\"0007\" "
+                                         "subDeviceID=\"0009\" display=\"Controller\"",
+                                         {{"FRMW", "1.0", "controller firmware"}});
     Load(BundleXML("BTW64", "0A6B", {"BYPCI.EXE"}) +
              ComponentXML("BYPCI", "BYPCI.EXE", "FRMW", "9.0", {{"", {{"106B", "04D2", "0007", "0009"}}}}),
          device);
@@ -285,8 +292,7 @@ TEST_F(ApplicableUpdates, DeviceWithComponentIDIgnoresMatchingPCIEntry)
 
 TEST_F(ApplicableUpdates, ComponentTypeMustEqualTheApplicationsType)
 {
-    Load(BundleXML("BTW64", "0A6B", {"DRV.EXE", "BIOS.EXE"}) +
-             ComponentForID("DRV", "DRV.EXE", "DRVR", "2.0", "159") +
+    Load(BundleXML("BTW64", "0A6B", {"DRV.EXE", "BIOS.EXE"}) + ComponentForID("DRV", "DRV.EXE", "DRVR", "2.0", "159") +
              ComponentForID("BIOS", "BIOS.EXE", "BIOS", "2.0", "160"),
          DeviceWithID("159", {{"FRMW", "1.0", "firmware"}, {"DRVR", "1.0", "driver"}}) +
              DeviceWithID("160", {{"FRMW", "1.0", "other firmware"}}));
@@ -634,9 +640,9 @@ TEST_F(ApplicableUpdates, KeysAndValuesPointIntoTheStores)
     ASSERT_EQ(3u, components.size());
 
     const Updates updates = Query();
-    EXPECT_EQ((Updates{{applications[0], components[0]}, {applications[1], components[1]},
-                       {applications[2], components[2]}}),
-              updates);
+    EXPECT_EQ(
+        (Updates{{applications[0], components[0]}, {applications[1], components[1]}, {applications[2], components[2]}}),
+        updates);
     for (const auto& entry : updates) {
         EXPECT_NE(applications.end(), std::find(applications.begin(), applications.end(), entry.first));
         EXPECT_NE(components.end(), std::find(components.begin(), components.end(), entry.second));

@@ -92,8 +92,8 @@ TEST(VELXMLNullName, AttributeAndChildQueriesFail)
     TempDir dir;
     int errorCode = 0;
     VELString errorText;
-    std::unique_ptr<VELXMLDocument> document(VELDOMParser::Parse(
-        VELFile(dir.Write("a.xml", "<Root lang=\"en\"><Display/></Root>")), errorCode, errorText));
+    std::unique_ptr<VELXMLDocument> document(
+        VELDOMParser::Parse(VELFile(dir.Write("a.xml", "<Root lang=\"en\"><Display/></Root>")), errorCode, errorText));
     ASSERT_NE(nullptr, document);
     const VELXMLNode* root = document->GetRoot();
     ASSERT_NE(nullptr, root);

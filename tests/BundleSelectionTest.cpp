@@ -12,8 +12,7 @@ namespace {
 // A bundle of the given type. `systemID` is the hexadecimal "systemID" of
 // its one target model; "-" leaves "TargetSystems" out, "" writes a
 // "TargetSystems" without a "Brand".
-std::string BundleXML(const std::string& bundleID, const std::string& bundleType,
-                      const std::string& systemID)
+std::string BundleXML(const std::string& bundleID, const std::string& bundleType, const std::string& systemID)
 {
     std::string targets;
     if (systemID.empty()) {
@@ -23,9 +22,11 @@ std::string BundleXML(const std::string& bundleID, const std::string& bundleType
                   "<Model systemID=\"" +
                   systemID + "\"><Display lang=\"en\">Model</Display></Model></Brand></TargetSystems>";
     }
-    return "<SoftwareBundle bundleID=\"" + bundleID + "\" bundleType=\"" + bundleType +
-           "\" path=\"" + bundleID + ".exe\">"
-           "<Name><Display lang=\"en\">Bundle " + bundleID + "</Display></Name>"
+    return "<SoftwareBundle bundleID=\"" + bundleID + "\" bundleType=\"" + bundleType + "\" path=\"" + bundleID +
+           ".exe\">"
+           "<Name><Display lang=\"en\">Bundle " +
+           bundleID +
+           "</Display></Name>"
            "<ComponentType value=\"SBDL\"/>" +
            targets + "<Contents><Package path=\"PKG.EXE\" packageID=\"PKG\"/></Contents></SoftwareBundle>";
 }
@@ -39,8 +40,7 @@ std::string CatalogXMLOf(const std::string& entries)
 // stand) without devices.
 std::string InventoryXML(const std::string& systems)
 {
-    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<SVMInventory lang=\"en\">" + systems +
-           "</SVMInventory>\n";
+    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<SVMInventory lang=\"en\">" + systems + "</SVMInventory>\n";
 }
 
 std::string SystemXML(const std::string& systemID)
@@ -120,8 +120,7 @@ TEST_F(BundleSelection, OnlyBundleOfAnotherTypeGivesNull)
 TEST_F(BundleSelection, BundlesWithoutSystemIDsAreSkipped)
 {
     ParseInventory(SystemXML("0A6B"));
-    ParseCatalog(BundleXML("W.1", "BTW64", "-") + BundleXML("W.2", "BTW64", "") +
-                 BundleXML("W.3", "BTW64", "0A6B"));
+    ParseCatalog(BundleXML("W.1", "BTW64", "-") + BundleXML("W.2", "BTW64", "") + BundleXML("W.3", "BTW64", "0A6B"));
     std::vector<QRMSoftwareBundle*> bundles = Bundles();
     ASSERT_EQ(3u, bundles.size());
     std::vector<unsigned int> ids;
@@ -144,8 +143,7 @@ TEST_F(BundleSelection, BundlesWithoutSystemIDsDoNotMatchSystemIDZero)
 
 TEST_F(BundleSelection, WithoutInventoryABundleForSystemIDZeroIsReturned)
 {
-    ParseCatalog(BundleXML("W.1", "BTW64", "0A6B") + BundleXML("W.2", "BTW64", "0") +
-                 BundleXML("W.3", "BTW64", "00"));
+    ParseCatalog(BundleXML("W.1", "BTW64", "0A6B") + BundleXML("W.2", "BTW64", "0") + BundleXML("W.3", "BTW64", "00"));
     std::vector<QRMSoftwareBundle*> bundles = Bundles();
     ASSERT_EQ(3u, bundles.size());
     ASSERT_FALSE(api->IsInventoryParsed());
@@ -170,8 +168,7 @@ TEST_F(BundleSelection, SystemIDIsComparedAsHexadecimalNumber)
 {
     // "0a6b" and "A6B" spell the same number as the inventory's "0A6B".
     ParseInventory(SystemXML("0A6B"));
-    ParseCatalog(BundleXML("W.1", "BTW64", "A6") + BundleXML("W.2", "BTW64", "0a6b") +
-                 BundleXML("L.1", "BTLX", "A6B"));
+    ParseCatalog(BundleXML("W.1", "BTW64", "A6") + BundleXML("W.2", "BTW64", "0a6b") + BundleXML("L.1", "BTLX", "A6B"));
     std::vector<QRMSoftwareBundle*> bundles = Bundles();
     ASSERT_EQ(3u, bundles.size());
     EXPECT_EQ(bundles[1], api->GetApplicableBundle(QRM_BUNDLE_BTW64));
@@ -253,10 +250,8 @@ TEST_F(BundleSelection, SelectionReadsBundlesOfACatalogWhoseParseWasAborted)
     ParseInventory(SystemXML("0A6B"));
     // The second bundle lacks "Contents": the parse stops there, keeping the
     // first bundle, and the catalog does not count as parsed.
-    const std::string entries = BundleXML("W.5", "BTW64", "0A6B") +
-                                CatalogXML::Bundle("W.6", "Contents");
-    ASSERT_EQ(QRM_KIT_ELEMENT_MISSING,
-              api->Parse(VELFile(dir.Write("catalog.xml", CatalogXMLOf(entries)))));
+    const std::string entries = BundleXML("W.5", "BTW64", "0A6B") + CatalogXML::Bundle("W.6", "Contents");
+    ASSERT_EQ(QRM_KIT_ELEMENT_MISSING, api->Parse(VELFile(dir.Write("catalog.xml", CatalogXMLOf(entries)))));
     ASSERT_FALSE(api->IsCatalogParsed());
     std::vector<QRMSoftwareBundle*> bundles = Bundles();
     ASSERT_EQ(1u, bundles.size());

@@ -17,8 +17,7 @@ const char* const kManifest =
 
 QRMKitAPI* API() { return QRMKitAPI::Instance(); }
 
-QRMKitReturnCode ParseText(const TempDir& dir, const std::string& xml,
-                           const std::string& name = "catalog.xml")
+QRMKitReturnCode ParseText(const TempDir& dir, const std::string& xml, const std::string& name = "catalog.xml")
 {
     return API()->Parse(VELFile(dir.Write(name, xml)));
 }
@@ -53,9 +52,8 @@ void ExpectStoreEmptyAndNotParsed()
 // A catalog that parses completely, to be replaced by the text under test.
 void ParseAFullCatalogFirst(const TempDir& dir)
 {
-    std::string xml = CatalogXML::Document(
-        kManifest, CatalogXML::Bundle("B1") + CatalogXML::Component("C1") +
-                       CatalogXML::InventoryComponent("WIN", "inv/win.exe"));
+    std::string xml = CatalogXML::Document(kManifest, CatalogXML::Bundle("B1") + CatalogXML::Component("C1") +
+                                                          CatalogXML::InventoryComponent("WIN", "inv/win.exe"));
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, xml, "earlier.xml"));
     ASSERT_TRUE(API()->IsCatalogParsed());
     ASSERT_EQ(1u, BundleCount());
@@ -90,8 +88,8 @@ TEST(CatalogDocument, SelfClosingRootParses)
 TEST(CatalogDocument, AnyRootNameIsAccepted)
 {
     TempDir dir;
-    std::string entries = CatalogXML::Bundle("B1") + CatalogXML::Component("C1") +
-                          CatalogXML::InventoryComponent("WIN", "w.exe");
+    std::string entries =
+        CatalogXML::Bundle("B1") + CatalogXML::Component("C1") + CatalogXML::InventoryComponent("WIN", "w.exe");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries, "whatever-Root")));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_EQ(1u, BundleCount());
@@ -104,8 +102,7 @@ TEST(CatalogDocument, EntriesNestedDeeperAreNotRead)
 {
     TempDir dir;
     std::string entries = "<Group>" + CatalogXML::Component("Nested") + CatalogXML::Bundle("Nested") +
-                          CatalogXML::InventoryComponent("NESTED", "n.exe") + "</Group>" +
-                          CatalogXML::Component("Top");
+                          CatalogXML::InventoryComponent("NESTED", "n.exe") + "</Group>" + CatalogXML::Component("Top");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_EQ(1u, ComponentCount());
@@ -118,8 +115,7 @@ TEST(CatalogDocument, NestedIncompleteEntryDoesNotAbort)
     TempDir dir;
     // Only direct children of the root are looked at, so an incomplete entry
     // further down cannot stop the parse.
-    std::string entries = "<Group>" + CatalogXML::Component("Nested", "Name") + "</Group>" +
-                          CatalogXML::Bundle("B1");
+    std::string entries = "<Group>" + CatalogXML::Component("Nested", "Name") + "</Group>" + CatalogXML::Bundle("B1");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_EQ(1u, BundleCount());
@@ -130,8 +126,7 @@ TEST(CatalogDocument, EntryNamesAreCaseSensitive)
 {
     TempDir dir;
     std::string entries =
-        "<softwarecomponent/><SOFTWAREBUNDLE/><inventoryComponent osCode=\"X\" path=\"x\"/>" +
-        CatalogXML::Bundle("B1");
+        "<softwarecomponent/><SOFTWAREBUNDLE/><inventoryComponent osCode=\"X\" path=\"x\"/>" + CatalogXML::Bundle("B1");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_EQ(1u, BundleCount());
@@ -154,9 +149,8 @@ TEST(CatalogDocument, MixedEntriesKeepDocumentOrderOfEachKind)
     TempDir dir;
     std::string entries = CatalogXML::InventoryComponent("I1", "1") + CatalogXML::Component("C1") +
                           CatalogXML::Bundle("B1") + CatalogXML::InventoryComponent("I2", "2") +
-                          CatalogXML::Bundle("B2") + CatalogXML::Component("C2") +
-                          CatalogXML::Component("C3") + CatalogXML::InventoryComponent("I3", "3") +
-                          CatalogXML::Bundle("B3");
+                          CatalogXML::Bundle("B2") + CatalogXML::Component("C2") + CatalogXML::Component("C3") +
+                          CatalogXML::InventoryComponent("I3", "3") + CatalogXML::Bundle("B3");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_EQ(3u, BundleCount());
     EXPECT_EQ(3u, ComponentCount());
@@ -168,8 +162,7 @@ TEST(CatalogDocument, NewParseReplacesThePreviousCatalog)
     TempDir dir;
     ParseAFullCatalogFirst(dir);
     std::string entries = CatalogXML::InventoryComponent("LIN", "l.bin");
-    EXPECT_EQ(QRM_KIT_SUCCESS,
-              ParseText(dir, CatalogXML::Document("baseLocation=\"second\"", entries), "second.xml"));
+    EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document("baseLocation=\"second\"", entries), "second.xml"));
     EXPECT_EQ(0u, BundleCount());
     EXPECT_EQ(0u, ComponentCount());
     EXPECT_EQ((std::vector<std::string>{"LIN"}), InventoryOSCodes());
@@ -181,8 +174,7 @@ TEST(CatalogDocument, NewParseReplacesThePreviousCatalog)
 TEST(CatalogDocumentManifest, MissingAttributesGiveEmptyTextsAndZeroTime)
 {
     TempDir dir;
-    EXPECT_EQ(QRM_KIT_SUCCESS,
-              ParseText(dir, CatalogXML::Document("", CatalogXML::Bundle("B1"))));
+    EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document("", CatalogXML::Bundle("B1"))));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_TRUE(API()->GetBaseLocation().IsEmpty());
     EXPECT_TRUE(API()->GetCatalogReleaseID().IsEmpty());
@@ -194,8 +186,7 @@ TEST(CatalogDocumentManifest, MissingAttributesGiveEmptyTextsAndZeroTime)
 TEST(CatalogDocumentManifest, EachAttributeIsReadOnItsOwn)
 {
     TempDir dir;
-    EXPECT_EQ(QRM_KIT_SUCCESS,
-              ParseText(dir, CatalogXML::Document("version=\"1.0\" releaseID=\"R1\"", "")));
+    EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document("version=\"1.0\" releaseID=\"R1\"", "")));
     EXPECT_TRUE(API()->GetBaseLocation().IsEmpty());
     EXPECT_EQ(VELString("R1"), API()->GetCatalogReleaseID());
     EXPECT_EQ(VELString("1.0"), API()->GetCatalogVersion());
@@ -205,9 +196,9 @@ TEST(CatalogDocumentManifest, EachAttributeIsReadOnItsOwn)
 TEST(CatalogDocumentManifest, AttributeNamesAreCaseSensitive)
 {
     TempDir dir;
-    EXPECT_EQ(QRM_KIT_SUCCESS,
-              ParseText(dir, CatalogXML::Document(
-                                 "BaseLocation=\"x\" datetime=\"5\" releaseid=\"r\" Version=\"v\"", "")));
+    EXPECT_EQ(
+        QRM_KIT_SUCCESS,
+        ParseText(dir, CatalogXML::Document("BaseLocation=\"x\" datetime=\"5\" releaseid=\"r\" Version=\"v\"", "")));
     EXPECT_TRUE(API()->GetBaseLocation().IsEmpty());
     EXPECT_TRUE(API()->GetCatalogReleaseID().IsEmpty());
     EXPECT_TRUE(API()->GetCatalogVersion().IsEmpty());
@@ -259,9 +250,8 @@ TEST(CatalogDocumentManifest, DateTimeIsReadInDecimal)
 TEST(CatalogDocumentManifest, NonNumericDateTimeGivesZeroAndTheWalkGoesOn)
 {
     TempDir dir;
-    std::string xml = CatalogXML::Document(
-        "baseLocation=\"loc\" dateTime=\"tomorrow\"",
-        CatalogXML::Bundle("B1") + CatalogXML::Component("C1"));
+    std::string xml = CatalogXML::Document("baseLocation=\"loc\" dateTime=\"tomorrow\"",
+                                           CatalogXML::Bundle("B1") + CatalogXML::Component("C1"));
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, xml));
     EXPECT_EQ(0ull, API()->GetCatalogDateTime().GetValue());
     EXPECT_TRUE(API()->IsCatalogParsed());
@@ -304,8 +294,8 @@ TEST(CatalogDocumentFailures, MalformedXMLFailsAndEmptiesTheStore)
 {
     TempDir dir;
     ParseAFullCatalogFirst(dir);
-    std::string xml = "<?xml version=\"1.0\"?><Manifest " + std::string(kManifest) + ">" +
-                      CatalogXML::Bundle("B9") + "<SoftwareComponent></Manifest>";
+    std::string xml = "<?xml version=\"1.0\"?><Manifest " + std::string(kManifest) + ">" + CatalogXML::Bundle("B9") +
+                      "<SoftwareComponent></Manifest>";
     EXPECT_EQ(QRM_KIT_FAILURE, ParseText(dir, xml));
     ExpectStoreEmptyAndNotParsed();
 }
@@ -330,20 +320,19 @@ TEST(CatalogDocumentFailures, DocumentWithoutRootElementFails)
 {
     TempDir dir;
     ParseAFullCatalogFirst(dir);
-    EXPECT_EQ(QRM_KIT_FAILURE,
-              ParseText(dir, "<?xml version=\"1.0\"?>\n<!-- a catalog without its root -->\n"));
+    EXPECT_EQ(QRM_KIT_FAILURE, ParseText(dir, "<?xml version=\"1.0\"?>\n<!-- a catalog without its root -->\n"));
     ExpectStoreEmptyAndNotParsed();
 }
 
 TEST(CatalogDocumentFailures, InventoryComponentOfAnyShapeDoesNotStopTheWalk)
 {
     TempDir dir;
-    std::string entries =
-        CatalogXML::Bundle("B1") +
-        "<InventoryComponent/>"
-        "<InventoryComponent dateTime=\"never\" releaseDate=\"-\" osCode=\"ODD\"><Name/><Child>x</Child></InventoryComponent>" +
-        CatalogXML::InventoryComponent("WIN", "w.exe") + CatalogXML::Bundle("B2") +
-        CatalogXML::Component("C1");
+    std::string entries = CatalogXML::Bundle("B1") +
+                          "<InventoryComponent/>"
+                          "<InventoryComponent dateTime=\"never\" releaseDate=\"-\" "
+                          "osCode=\"ODD\"><Name/><Child>x</Child></InventoryComponent>" +
+                          CatalogXML::InventoryComponent("WIN", "w.exe") + CatalogXML::Bundle("B2") +
+                          CatalogXML::Component("C1");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_EQ(2u, BundleCount());
@@ -354,12 +343,10 @@ TEST(CatalogDocumentFailures, InventoryComponentOfAnyShapeDoesNotStopTheWalk)
 TEST(CatalogDocumentFailures, BundleWhoseNameLacksDisplayIsSkippedAndTheWalkGoesOn)
 {
     TempDir dir;
-    std::string broken =
-        "<SoftwareBundle bundleID=\"BAD\" bundleType=\"BTW64\">"
-        "<Name><Text>no display</Text></Name>"
-        "<ComponentType value=\"SBDL\"/><Contents/></SoftwareBundle>";
-    std::string entries = CatalogXML::Bundle("B1") + broken + CatalogXML::Bundle("B2") +
-                          CatalogXML::Component("C1");
+    std::string broken = "<SoftwareBundle bundleID=\"BAD\" bundleType=\"BTW64\">"
+                         "<Name><Text>no display</Text></Name>"
+                         "<ComponentType value=\"SBDL\"/><Contents/></SoftwareBundle>";
+    std::string entries = CatalogXML::Bundle("B1") + broken + CatalogXML::Bundle("B2") + CatalogXML::Component("C1");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_EQ(2u, BundleCount());
@@ -369,12 +356,10 @@ TEST(CatalogDocumentFailures, BundleWhoseNameLacksDisplayIsSkippedAndTheWalkGoes
 TEST(CatalogDocumentFailures, ComponentWhoseNameLacksDisplayIsSkippedAndTheWalkGoesOn)
 {
     TempDir dir;
-    std::string broken =
-        "<SoftwareComponent packageID=\"BAD\"><Name/>"
-        "<ComponentType value=\"BIOS\"/><Category value=\"BI\"/><SupportedDevices/>"
-        "</SoftwareComponent>";
-    std::string entries = CatalogXML::Component("C1") + broken + CatalogXML::Component("C2") +
-                          CatalogXML::Bundle("B1");
+    std::string broken = "<SoftwareComponent packageID=\"BAD\"><Name/>"
+                         "<ComponentType value=\"BIOS\"/><Category value=\"BI\"/><SupportedDevices/>"
+                         "</SoftwareComponent>";
+    std::string entries = CatalogXML::Component("C1") + broken + CatalogXML::Component("C2") + CatalogXML::Bundle("B1");
     EXPECT_EQ(QRM_KIT_SUCCESS, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_TRUE(API()->IsCatalogParsed());
     EXPECT_EQ(2u, ComponentCount());
@@ -394,10 +379,7 @@ struct IncompleteEntry {
 // Shown in test listings instead of the bytes of the structure.
 void PrintTo(const IncompleteEntry& entry, std::ostream* out) { *out << entry.label; }
 
-std::string IncompleteEntryName(const ::testing::TestParamInfo<IncompleteEntry>& info)
-{
-    return info.param.label;
-}
+std::string IncompleteEntryName(const ::testing::TestParamInfo<IncompleteEntry>& info) { return info.param.label; }
 
 class CatalogDocumentIncompleteEntry : public ::testing::TestWithParam<IncompleteEntry> {
 protected:
@@ -417,8 +399,8 @@ TEST_P(CatalogDocumentIncompleteEntry, StopsWithElementMissingAndKeepsEarlierEnt
     // A component and two bundles before the incomplete entry, with an
     // inventory component between; more of every kind after it.
     std::string entries = CatalogXML::Component("C1") + CatalogXML::Bundle("B1") +
-                          CatalogXML::InventoryComponent("WIN", "w.exe") + CatalogXML::Bundle("B2") +
-                          Incomplete() + CatalogXML::Bundle("B4") + CatalogXML::Component("C4") +
+                          CatalogXML::InventoryComponent("WIN", "w.exe") + CatalogXML::Bundle("B2") + Incomplete() +
+                          CatalogXML::Bundle("B4") + CatalogXML::Component("C4") +
                           CatalogXML::InventoryComponent("LIN", "l.bin");
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     EXPECT_EQ(5, static_cast<int>(ParseText(dir, CatalogXML::Document(kManifest, entries), "again.xml")));
@@ -459,8 +441,7 @@ TEST(CatalogDocumentIncomplete, FirstEntryIncompleteLeavesOnlyTheManifestUnrepor
 TEST(CatalogDocumentIncomplete, NextParseEmptiesThePartialStore)
 {
     TempDir dir;
-    std::string entries = CatalogXML::Bundle("B1") + CatalogXML::Bundle("B2") +
-                          CatalogXML::Bundle("B3", "Name");
+    std::string entries = CatalogXML::Bundle("B1") + CatalogXML::Bundle("B2") + CatalogXML::Bundle("B3", "Name");
     ASSERT_EQ(QRM_KIT_ELEMENT_MISSING, ParseText(dir, CatalogXML::Document(kManifest, entries)));
     ASSERT_EQ(2u, BundleCount());
     EXPECT_EQ(QRM_KIT_SUCCESS,
@@ -499,12 +480,13 @@ namespace {
 
 std::string EncodedCatalog()
 {
-    return CatalogXML::Document(
-        "baseLocation=\"downloads.example.net/k\xC3\xA4t\" dateTime=\"1763683200\" "
-        "releaseID=\"R\xC3\xA9" "1\" version=\"24.11\"",
-        CatalogXML::Bundle("B1") + CatalogXML::InventoryComponent("WIN", "inv/\xE2\x82\xAC.exe") +
-            CatalogXML::Component("C1") + CatalogXML::Bundle("B2") +
-            CatalogXML::InventoryComponent("LIN", "inv/lin.bin"));
+    return CatalogXML::Document("baseLocation=\"downloads.example.net/k\xC3\xA4t\" dateTime=\"1763683200\" "
+                                "releaseID=\"R\xC3\xA9"
+                                "1\" version=\"24.11\"",
+                                CatalogXML::Bundle("B1") +
+                                    CatalogXML::InventoryComponent("WIN", "inv/\xE2\x82\xAC.exe") +
+                                    CatalogXML::Component("C1") + CatalogXML::Bundle("B2") +
+                                    CatalogXML::InventoryComponent("LIN", "inv/lin.bin"));
 }
 
 struct StoreSnapshot {

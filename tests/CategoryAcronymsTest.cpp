@@ -21,9 +21,13 @@ std::string CategoryComponent(const std::string& packageID, const std::string& c
 {
     return "<SoftwareComponent packageID=\"" + packageID + "\" path=\"" + packageID +
            ".EXE\" vendorVersion=\"1.0\">"
-           "<Name><Display lang=\"en\">Package " + packageID + "</Display></Name>"
+           "<Name><Display lang=\"en\">Package " +
+           packageID +
+           "</Display></Name>"
            "<ComponentType value=\"DRVR\"/>"
-           "<Category value=\"" + code + "\"><Display lang=\"en\"><![CDATA[" + text + "]]></Display></Category>"
+           "<Category value=\"" +
+           code + "\"><Display lang=\"en\"><![CDATA[" + text +
+           "]]></Display></Category>"
            "<SupportedDevices/></SoftwareComponent>";
 }
 
@@ -178,27 +182,17 @@ TEST_F(CategoryAcronyms, CodeOfVowelsAndDigitsGetsBC)
 TEST_F(CategoryAcronyms, ThreeLettersOnlyWhenEveryTwoLetterSelectionIsTaken)
 {
     Parse({{"BC", "t1"}, {"BD", "t2"}, {"BF", "t3"}, {"CD", "t4"}, {"CF", "t5"}, {"DF", "t6"}, {"BCDF1", "Long"}});
-    EXPECT_EQ((TextMap{{"BC", "t1"},
-                       {"BD", "t2"},
-                       {"BF", "t3"},
-                       {"BCD", "Long"},
-                       {"CD", "t4"},
-                       {"CF", "t5"},
-                       {"DF", "t6"}}),
-              Acronyms());
+    EXPECT_EQ(
+        (TextMap{{"BC", "t1"}, {"BD", "t2"}, {"BF", "t3"}, {"BCD", "Long"}, {"CD", "t4"}, {"CF", "t5"}, {"DF", "t6"}}),
+        Acronyms());
 }
 
 TEST_F(CategoryAcronyms, ThreeLetterSelectionsAlsoSkipTakenOnes)
 {
     Parse({{"BC", "t1"}, {"BD", "t2"}, {"BF", "t3"}, {"CD", "t4"}, {"CF", "t5"}, {"DF", "bcd"}, {"BCDF1", "Long"}});
-    EXPECT_EQ((TextMap{{"BC", "t1"},
-                       {"BD", "t2"},
-                       {"BF", "t3"},
-                       {"BCF", "Long"},
-                       {"CD", "t4"},
-                       {"CF", "t5"},
-                       {"DF", "bcd"}}),
-              Acronyms());
+    EXPECT_EQ(
+        (TextMap{{"BC", "t1"}, {"BD", "t2"}, {"BF", "t3"}, {"BCF", "Long"}, {"CD", "t4"}, {"CF", "t5"}, {"DF", "bcd"}}),
+        Acronyms());
 }
 
 TEST_F(CategoryAcronyms, WholeBaseBecomesAcronymUncheckedWhenEverySelectionIsTaken)
@@ -342,8 +336,7 @@ TEST_F(CategoryAcronyms, ListAppendsToTheCallersVectors)
     Parse({{"BI", "BIOS"}, {"Netbook", "Netbook Tools"}});
     std::map<VELString, std::vector<VELString>> list = ToVEL(ListMap{{"BIOS", {"pre"}}, {"Other", {"x"}}});
     api->ListCatalogAndRVUGeneratedCategoryValues(list);
-    EXPECT_EQ((ListMap{{"BIOS", {"pre", "BI"}}, {"Netbook Tools", {"Netbook", "NT"}}, {"Other", {"x"}}}),
-              ToStd(list));
+    EXPECT_EQ((ListMap{{"BIOS", {"pre", "BI"}}, {"Netbook Tools", {"Netbook", "NT"}}, {"Other", {"x"}}}), ToStd(list));
 }
 
 TEST_F(CategoryAcronyms, ListTwiceAppendsTheSameEntriesAgain)

@@ -15,10 +15,7 @@ int Compare(const VELString& first, const VELString& second)
     return QRMKitAPI::Instance()->CompareVersion(first, second);
 }
 
-int Compare(const char* first, const char* second)
-{
-    return Compare(VELString(first), VELString(second));
-}
+int Compare(const char* first, const char* second) { return Compare(VELString(first), VELString(second)); }
 
 struct Expected {
     const char* first;
@@ -71,7 +68,7 @@ TEST(CompareVersion, LeadingZerosDoNotCount)
 
 TEST(CompareVersion, LettersComparedAfterLeftPaddingWithZero)
 {
-    EXPECT_EQ(1, Compare("A05", "A5"));    // A5 becomes 0A5, and A is above 0
+    EXPECT_EQ(1, Compare("A05", "A5"));  // A5 becomes 0A5, and A is above 0
     EXPECT_EQ(-1, Compare("A5", "A05"));
     EXPECT_EQ(1, Compare("A10", "A9"));
     EXPECT_EQ(-1, Compare("A9", "A10"));
@@ -132,9 +129,9 @@ TEST(CompareVersion, OtherCharactersBelongToTheField)
 {
     // Only ".", "-" and "_" separate fields; a blank or "+" is compared by its
     // code unit like any other character.
-    EXPECT_EQ(1, Compare("1 2", "1.2"));   // field "1 2" against "1" padded to "001"
-    EXPECT_EQ(1, Compare("1+2", "1"));     // "1+2" against "001"
-    EXPECT_EQ(-1, Compare(" 9", "19"));    // the blank is below every digit
+    EXPECT_EQ(1, Compare("1 2", "1.2"));  // field "1 2" against "1" padded to "001"
+    EXPECT_EQ(1, Compare("1+2", "1"));    // "1+2" against "001"
+    EXPECT_EQ(-1, Compare(" 9", "19"));   // the blank is below every digit
 }
 
 TEST(CompareVersion, NonASCIITextCannotBeCompared)
@@ -178,34 +175,54 @@ TEST(CompareVersion, DoesNotChangeItsArguments)
 TEST(CompareVersion, TableOfPairs)
 {
     const Expected table[] = {
-        {"1.2.3", "1.2.3", 0},   {"1.2.10", "1.2.9", 1},  {"1.0", "1.0.0", -1},
-        {"2.1", "2.1.0", -1},    {"1.05", "1.5", 0},      {"01.2", "1.2", 0},
-        {"A05", "A5", 1},        {"A10", "A9", 1},        {"A01", "A02", -1},
-        {"a", "B", 1},           {"1..2", "1.2", 0},      {".1.2.", "1.2", 0},
-        {"1-2", "1_2", 0},       {"X12", "X9", 1},        {"x12", "X12", 1},
-        {"", "", 0},             {"", "1", -1},           {"1", "", 1},
-        {"...", "", 0},          {"10", "9", 1},          {"1.10.0", "1.9.9", 1},
-        {"2.0", "10.0", -1},     {"1.2.3.4", "1.2.3", 1}, {"A00", "A01", -1},
-        {"1.0a", "1.0b", -1},    {"1.0a", "1.0", 1},      {"1.0.0-1", "1.0.0", 1},
-        {"4.3.2_1", "4.3.2.1", 0},
+        {"1.2.3", "1.2.3", 0},  {"1.2.10", "1.2.9", 1}, {"1.0", "1.0.0", -1},    {"2.1", "2.1.0", -1},
+        {"1.05", "1.5", 0},     {"01.2", "1.2", 0},     {"A05", "A5", 1},        {"A10", "A9", 1},
+        {"A01", "A02", -1},     {"a", "B", 1},          {"1..2", "1.2", 0},      {".1.2.", "1.2", 0},
+        {"1-2", "1_2", 0},      {"X12", "X9", 1},       {"x12", "X12", 1},       {"", "", 0},
+        {"", "1", -1},          {"1", "", 1},           {"...", "", 0},          {"10", "9", 1},
+        {"1.10.0", "1.9.9", 1}, {"2.0", "10.0", -1},    {"1.2.3.4", "1.2.3", 1}, {"A00", "A01", -1},
+        {"1.0a", "1.0b", -1},   {"1.0a", "1.0", 1},     {"1.0.0-1", "1.0.0", 1}, {"4.3.2_1", "4.3.2.1", 0},
     };
     for (const Expected& row : table) {
-        EXPECT_EQ(row.result, Compare(row.first, row.second))
-            << "'" << row.first << "' against '" << row.second << "'";
+        EXPECT_EQ(row.result, Compare(row.first, row.second)) << "'" << row.first << "' against '" << row.second << "'";
     }
 }
 
 TEST(CompareVersion, SwappingTheArgumentsNegatesTheResultForVariedPairs)
 {
     const std::pair<const char*, const char*> pairs[] = {
-        {"1.2.3", "1.2.3"}, {"1.2.10", "1.2.9"}, {"1.0", "1.0.0"},     {"2.1", "2.1.0"},
-        {"1.05", "1.5"},    {"01.2", "1.2"},     {"A05", "A5"},        {"A10", "A9"},
-        {"A01", "A02"},     {"a", "B"},          {"1..2", "1.2"},      {".1.2.", "1.2"},
-        {"1-2", "1_2"},     {"1.2.3", "1-2-3"},  {"1-2-3", "1_2.3"},   {"X12", "X9"},
-        {"x12", "X12"},     {"", ""},            {"", "1"},            {"...", ""},
-        {"...", "0"},       {"0", "00"},         {"1 2", "1.2"},       {"1+2", "1"},
-        {"9.9.9", "10"},    {"1.0a", "1.0b"},    {"A", "0A"},          {"1.2.3.4.5", "1.2.3.4"},
-        {"_1_", "-1-"},     {"zz", "ZZZ"},       {"0.0.1", "0.0.01"},  {"3.10.2", "3.9.12"},
+        {"1.2.3", "1.2.3"},
+        {"1.2.10", "1.2.9"},
+        {"1.0", "1.0.0"},
+        {"2.1", "2.1.0"},
+        {"1.05", "1.5"},
+        {"01.2", "1.2"},
+        {"A05", "A5"},
+        {"A10", "A9"},
+        {"A01", "A02"},
+        {"a", "B"},
+        {"1..2", "1.2"},
+        {".1.2.", "1.2"},
+        {"1-2", "1_2"},
+        {"1.2.3", "1-2-3"},
+        {"1-2-3", "1_2.3"},
+        {"X12", "X9"},
+        {"x12", "X12"},
+        {"", ""},
+        {"", "1"},
+        {"...", ""},
+        {"...", "0"},
+        {"0", "00"},
+        {"1 2", "1.2"},
+        {"1+2", "1"},
+        {"9.9.9", "10"},
+        {"1.0a", "1.0b"},
+        {"A", "0A"},
+        {"1.2.3.4.5", "1.2.3.4"},
+        {"_1_", "-1-"},
+        {"zz", "ZZZ"},
+        {"0.0.1", "0.0.01"},
+        {"3.10.2", "3.9.12"},
         {"123456789012345678901234567890", "123456789012345678901234567891"},
     };
     for (const auto& pair : pairs) {
@@ -219,11 +236,9 @@ TEST(CompareVersion, SwappingTheArgumentsNegatesTheResultForVariedPairs)
 TEST(CompareVersion, SwappingTheArgumentsNegatesTheResultForAllPairsOfAList)
 {
     const char* const versions[] = {
-        "",        "...",     "0",        "00",       "0.0",     "1",        "1.0",
-        "1.0.0",   "1.0.0.0", "1.2",      "1-2",      "1_2.3",   "1.2.3",    "1.2.10",
-        "1.2.9",   "1.10",    "01.10",    "A5",       "A05",     "A10",      "a",
-        "B",       "X9",      "X12",      "x12",      "2.1",     "2.1.0",    "10.0.1-beta",
-        "10.0.1_b",
+        "",    "...",   "0",     "00",     "0.0",   "1",    "1.0",   "1.0.0",       "1.0.0.0",  "1.2",
+        "1-2", "1_2.3", "1.2.3", "1.2.10", "1.2.9", "1.10", "01.10", "A5",          "A05",      "A10",
+        "a",   "B",     "X9",    "X12",    "x12",   "2.1",  "2.1.0", "10.0.1-beta", "10.0.1_b",
     };
     int asymmetric = 0;
     for (const char* first : versions) {
@@ -232,8 +247,8 @@ TEST(CompareVersion, SwappingTheArgumentsNegatesTheResultForAllPairsOfAList)
             int backward = Compare(second, first);
             if (forward != -backward) {
                 ++asymmetric;
-                ADD_FAILURE() << "'" << first << "' against '" << second << "' gives " << forward
-                              << ", the reverse " << backward;
+                ADD_FAILURE() << "'" << first << "' against '" << second << "' gives " << forward << ", the reverse "
+                              << backward;
             }
             if (std::string(first) == second) {
                 EXPECT_EQ(0, forward) << "'" << first << "'";
@@ -248,9 +263,8 @@ TEST(CompareVersion, OrderIsTransitiveOverASortedList)
     // Strictly increasing by the rules of the comparison.
     // A longer field is the larger once leading zeros are set aside, so a
     // letter alone sorts below 10, and A05 above A9.
-    const char* const ascending[] = {"", "0.9", "1", "1.0", "1.0.0", "1.0.1", "1.1",
-                                     "1.2.9", "1.2.10", "1.10", "2", "2.1", "2.1.0",
-                                     "a", "10", "A5", "A9", "A05", "A10"};
+    const char* const ascending[] = {"",  "0.9", "1",     "1.0", "1.0.0", "1.0.1", "1.1", "1.2.9", "1.2.10", "1.10",
+                                     "2", "2.1", "2.1.0", "a",   "10",    "A5",    "A9",  "A05",   "A10"};
     const std::size_t count = sizeof(ascending) / sizeof(ascending[0]);
     for (std::size_t i = 0; i < count; ++i) {
         for (std::size_t j = 0; j < count; ++j) {
@@ -260,4 +274,3 @@ TEST(CompareVersion, OrderIsTransitiveOverASortedList)
         }
     }
 }
-

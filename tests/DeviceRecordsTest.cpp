@@ -30,8 +30,7 @@ VELGUID MakeGUID(unsigned char seed)
     return VELGUID(bytes);
 }
 
-QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID,
-                   unsigned int subDeviceID)
+QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID, unsigned int subDeviceID)
 {
     QRMPCIInfo pci;
     pci.SetVendorID(vendorID);
@@ -154,20 +153,11 @@ TEST(QRMPCIInfo, DifferentVendorIdMakesThemUnequal)
     EXPECT_TRUE(MakePCI(1, 2, 3, 4) != MakePCI(9, 2, 3, 4));
 }
 
-TEST(QRMPCIInfo, DifferentDeviceIdMakesThemUnequal)
-{
-    EXPECT_FALSE(MakePCI(1, 2, 3, 4) == MakePCI(1, 9, 3, 4));
-}
+TEST(QRMPCIInfo, DifferentDeviceIdMakesThemUnequal) { EXPECT_FALSE(MakePCI(1, 2, 3, 4) == MakePCI(1, 9, 3, 4)); }
 
-TEST(QRMPCIInfo, DifferentSubVendorIdMakesThemUnequal)
-{
-    EXPECT_FALSE(MakePCI(1, 2, 3, 4) == MakePCI(1, 2, 9, 4));
-}
+TEST(QRMPCIInfo, DifferentSubVendorIdMakesThemUnequal) { EXPECT_FALSE(MakePCI(1, 2, 3, 4) == MakePCI(1, 2, 9, 4)); }
 
-TEST(QRMPCIInfo, DifferentSubDeviceIdMakesThemUnequal)
-{
-    EXPECT_FALSE(MakePCI(1, 2, 3, 4) == MakePCI(1, 2, 3, 9));
-}
+TEST(QRMPCIInfo, DifferentSubDeviceIdMakesThemUnequal) { EXPECT_FALSE(MakePCI(1, 2, 3, 4) == MakePCI(1, 2, 3, 9)); }
 
 TEST(QRMPCIInfo, AZeroSubIdMatchesOnlyZero)
 {

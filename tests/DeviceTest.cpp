@@ -15,8 +15,7 @@ namespace {
 
 std::string U8(const VELString& text) { return text.GetUTF8String(); }
 
-QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID,
-                   unsigned int subDeviceID)
+QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID, unsigned int subDeviceID)
 {
     QRMPCIInfo pci;
     pci.SetVendorID(vendorID);
@@ -110,8 +109,8 @@ std::vector<QRMDeviceApplicability> ApplicabilityOf(const QRMDevice& device)
     return out;
 }
 
-void ExpectPCI(const QRMPCIInfo& pci, unsigned int vendorID, unsigned int deviceID,
-               unsigned int subVendorID, unsigned int subDeviceID)
+void ExpectPCI(const QRMPCIInfo& pci, unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID,
+               unsigned int subDeviceID)
 {
     EXPECT_EQ(vendorID, pci.GetVendorID());
     EXPECT_EQ(deviceID, pci.GetDeviceID());

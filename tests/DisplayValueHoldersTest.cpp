@@ -196,10 +196,8 @@ TEST(QRMNameDisplayPointers, CopyHoldsOtherObjectsWithTheSameContentsInOrder)
         EXPECT_NE(sourcePointers[i], copyPointers[i]);
         EXPECT_TRUE(*sourcePointers[i] == *copyPointers[i]);
     }
-    EXPECT_EQ(sourcePointers.end(),
-              std::find(sourcePointers.begin(), sourcePointers.end(), copyPointers[0]));
-    EXPECT_EQ(sourcePointers.end(),
-              std::find(sourcePointers.begin(), sourcePointers.end(), copyPointers[1]));
+    EXPECT_EQ(sourcePointers.end(), std::find(sourcePointers.begin(), sourcePointers.end(), copyPointers[0]));
+    EXPECT_EQ(sourcePointers.end(), std::find(sourcePointers.begin(), sourcePointers.end(), copyPointers[1]));
 }
 
 TEST(QRMNameDisplayPointers, ChangingTheCopyThroughItsPointersLeavesTheSourceUntouched)
@@ -482,8 +480,8 @@ TEST(QRMCriticalityValue, NewCriticalityHoldsZero)
 
 TEST(QRMCriticalityValue, SetValueReturnsSuccessForEveryEnumerator)
 {
-    const QRMCriticalityValueEnum values[] = {QRM_CRITICALITY_LEVEL1, QRM_CRITICALITY_LEVEL2,
-                                              QRM_CRITICALITY_LEVEL3, QRM_CRITICALITY_UNSPECIFIED};
+    const QRMCriticalityValueEnum values[] = {QRM_CRITICALITY_LEVEL1, QRM_CRITICALITY_LEVEL2, QRM_CRITICALITY_LEVEL3,
+                                              QRM_CRITICALITY_UNSPECIFIED};
     QRMCriticality criticality;
     for (QRMCriticalityValueEnum value : values) {
         EXPECT_EQ(QRM_KIT_SUCCESS, criticality.SetValue(value));
@@ -625,10 +623,9 @@ namespace {
 // reads as empty.
 QRMKitReturnCode ModelRemove(Texts& texts, const std::string& language)
 {
-    auto found = std::find_if(texts.begin(), texts.end(),
-                              [&language](const std::pair<std::string, std::string>& entry) {
-                                  return entry.first == language;
-                              });
+    auto found =
+        std::find_if(texts.begin(), texts.end(),
+                     [&language](const std::pair<std::string, std::string>& entry) { return entry.first == language; });
     if (found == texts.end()) {
         return QRM_KIT_NOT_FOUND;
     }

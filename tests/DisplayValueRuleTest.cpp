@@ -140,8 +140,8 @@ protected:
     typedef HolderTraits<Holder> Traits;
 };
 
-typedef ::testing::Types<QRMName, QRMRevisionHistory, QRMCategory, QRMLUCategory, QRMImportantInfo,
-                         QRMComponentType, QRMCriticality, QRMInstallInstruction>
+typedef ::testing::Types<QRMName, QRMRevisionHistory, QRMCategory, QRMLUCategory, QRMImportantInfo, QRMComponentType,
+                         QRMCriticality, QRMInstallInstruction>
     DisplayHolders;
 
 }  // namespace

@@ -41,8 +41,8 @@ struct CatalogTexts {
 // component id 159 whose file is PKG.EXE, one collector for W22.
 std::string Catalog(const CatalogTexts& t)
 {
-    return t.declaration + t.doctype + "<Manifest baseLocation=\"" + t.baseLocation + "\" releaseID=\"" +
-           t.releaseID + "\" version=\"" + t.version +
+    return t.declaration + t.doctype + "<Manifest baseLocation=\"" + t.baseLocation + "\" releaseID=\"" + t.releaseID +
+           "\" version=\"" + t.version +
            "\" dateTime=\"1700000000\">\n"
            "<SoftwareBundle bundleID=\"B.00007\" bundleType=\"BTW64\" path=\"b.exe\">"
            "<Name><Display lang=\"en\">" +
@@ -78,8 +78,7 @@ struct InventoryTexts {
 // One operating system, system 0A6B, and device 159 with one BIOS.
 std::string Inventory(const InventoryTexts& t)
 {
-    return t.declaration + t.doctype + "<SVMInventory lang=\"" + t.lang + "\" schemaVersion=\"" +
-           t.schemaVersion +
+    return t.declaration + t.doctype + "<SVMInventory lang=\"" + t.lang + "\" schemaVersion=\"" + t.schemaVersion +
            "\" timeStamp=\"1700000000\">\n"
            "<OperatingSystem osArch=\"x64\" osCode=\"W22\" osVendor=\"" +
            t.osVendor + "\"><Display lang=\"en\">" + t.osDisplay +
@@ -213,14 +212,13 @@ void ExpectTheSmallInventoryGetsItsUpdate()
 // Bytes that are not UTF-8: a stray continuation byte, a byte never used,
 // an overlong NUL, an encoded surrogate, a sequence cut short, a five-byte
 // form, and a code point above U+10FFFF.
-const std::string kInvalidUTF8 =
-    "\x80"
-    "\xFF"
-    "\xC0\x80"
-    "\xED\xA0\x80"
-    "\xE2\x82"
-    "\xF8\x88\x80\x80\x80"
-    "\xF4\x90\x80\x80";
+const std::string kInvalidUTF8 = "\x80"
+                                 "\xFF"
+                                 "\xC0\x80"
+                                 "\xED\xA0\x80"
+                                 "\xE2\x82"
+                                 "\xF8\x88\x80\x80\x80"
+                                 "\xF4\x90\x80\x80";
 
 // "a", then one or more U+FFFD, then "z": what a text made of "a", invalid
 // bytes and "z" must read as.
@@ -232,8 +230,8 @@ const std::string kInvalidUTF8 =
     }
     for (std::size_t i = 1; i + 1 < units.size(); ++i) {
         if (units[i] != u'\xFFFD') {
-            return ::testing::AssertionFailure() << "unit " << i << " of \"" << text.GetUTF8String()
-                                                 << "\" is " << static_cast<unsigned>(units[i]);
+            return ::testing::AssertionFailure()
+                   << "unit " << i << " of \"" << text.GetUTF8String() << "\" is " << static_cast<unsigned>(units[i]);
         }
     }
     return ::testing::AssertionSuccess();
@@ -259,27 +257,23 @@ std::string WithByte(std::string text, std::size_t position, char byte)
 
 // A document type declaration whose entities would grow to 3 * 10^9
 // characters if expanded, and a parameter entity that would define one more.
-const std::string kLaughs =
-    "<!DOCTYPE Root [\n"
-    "  <!ENTITY lol \"lol\">\n"
-    "  <!ENTITY lol1 \"&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;\">\n"
-    "  <!ENTITY lol2 \"&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;\">\n"
-    "  <!ENTITY lol3 \"&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;\">\n"
-    "  <!ENTITY lol4 \"&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;\">\n"
-    "  <!ENTITY lol5 \"&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;\">\n"
-    "  <!ENTITY lol6 \"&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;\">\n"
-    "  <!ENTITY lol7 \"&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;\">\n"
-    "  <!ENTITY lol8 \"&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;\">\n"
-    "  <!ENTITY lol9 \"&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;\">\n"
-    "  <!ENTITY % more \"<!ENTITY boom '&lol9;&lol9;'>\">\n"
-    "  %more;\n"
-    "]>\n";
+const std::string kLaughs = "<!DOCTYPE Root [\n"
+                            "  <!ENTITY lol \"lol\">\n"
+                            "  <!ENTITY lol1 \"&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;\">\n"
+                            "  <!ENTITY lol2 \"&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;\">\n"
+                            "  <!ENTITY lol3 \"&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;\">\n"
+                            "  <!ENTITY lol4 \"&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;\">\n"
+                            "  <!ENTITY lol5 \"&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;\">\n"
+                            "  <!ENTITY lol6 \"&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;\">\n"
+                            "  <!ENTITY lol7 \"&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;\">\n"
+                            "  <!ENTITY lol8 \"&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;\">\n"
+                            "  <!ENTITY lol9 \"&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;\">\n"
+                            "  <!ENTITY % more \"<!ENTITY boom '&lol9;&lol9;'>\">\n"
+                            "  %more;\n"
+                            "]>\n";
 
 // One entity of 100,000 characters, to be referenced many times.
-std::string WideEntity()
-{
-    return "<!DOCTYPE Root [\n  <!ENTITY wide \"" + std::string(100000, 'w') + "\">\n]>\n";
-}
+std::string WideEntity() { return "<!DOCTYPE Root [\n  <!ENTITY wide \"" + std::string(100000, 'w') + "\">\n]>\n"; }
 
 // Entities that name a local file, absolutely and relatively, an external
 // document type and a parameter entity that would pull it in.
@@ -450,8 +444,10 @@ TEST(HostileCatalogFile, InvalidUTF8IsReadAsReplacementCharacters)
     API()->GetInventoryComponents(collectors);
     ASSERT_EQ(1u, collectors.size());
     EXPECT_TRUE(IsAReplacedZ(collectors[0].GetPath()));
-    EXPECT_TRUE(IsAReplacedZ(API()->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")).SubString(
-        static_cast<unsigned int>(API()->GetBaseLocation().GetLength() + 1), 1000)));
+    EXPECT_TRUE(
+        IsAReplacedZ(API()
+                         ->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22"))
+                         .SubString(static_cast<unsigned int>(API()->GetBaseLocation().GetLength() + 1), 1000)));
     // A version that is not ASCII has no order.
     EXPECT_EQ(-2, API()->CompareVersion(component.GetVendorVersion(), VELString("1.0")));
     EXPECT_EQ(-2, API()->CompareVersion(VELString("1.0"), component.GetVendorVersion()));
@@ -463,8 +459,12 @@ TEST(HostileCatalogFile, InvalidUTF8InElementNamesLeavesThoseElementsUnread)
     TempDir dir;
     std::string xml = Catalog(CatalogTexts());
     std::string renamed = xml;
-    renamed.replace(renamed.find("<SoftwareComponent "), 19, "<Software\xFF" "Component ");
-    renamed.replace(renamed.find("</SoftwareComponent>"), 20, "</Software\xFF" "Component>");
+    renamed.replace(renamed.find("<SoftwareComponent "), 19,
+                    "<Software\xFF"
+                    "Component ");
+    renamed.replace(renamed.find("</SoftwareComponent>"), 20,
+                    "</Software\xFF"
+                    "Component>");
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("names.xml", renamed))));
     EXPECT_EQ(0u, StoredComponents().size());
     EXPECT_EQ(1u, StoredBundles().size());
@@ -800,8 +800,7 @@ TEST(HostileInventoryFile, NulBytesInTheDocumentFail)
         xml.rfind("</SVMInventory>") + 3,
     };
     for (std::size_t position : positions) {
-        EXPECT_EQ(QRM_KIT_FAILURE,
-                  API()->ParseInventory(VELFile(dir.Write("nul.xml", WithByte(xml, position, '\0')))))
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(dir.Write("nul.xml", WithByte(xml, position, '\0')))))
             << "NUL at " << position;
     }
     ExpectNoInventory();

@@ -107,13 +107,20 @@ TEST(HostileNumber, CatalogNumbersOfTenThousandDigits)
                       "<Brand key=\"1\" prefix=\"P\"><Model systemID=\"" + kZeros + "A6B\"/></Brand>");
     entries += Component("vendorVersion=\"1\" dateTime=\"" + kNines + "\" releaseDate=\"" + kZeros + "7\"",
                          "<SupportedDevices>"
-                         "<Device componentID=\"" + kNines + "\" embedded=\"" + kZeros + "\">"
-                         "<PCIInfo deviceID=\"" + kEffs + "\" vendorID=\"" + kNines + "\" subDeviceID=\"" + kZeros +
-                         "1\" subVendorID=\"-" + kNines + "\"/></Device>"
-                         "<Device componentID=\"" + kZeros + "159\" embedded=\"" + kNines + "\"/>"
-                         "</SupportedDevices><SupportedSystems display=\"" + kZeros + "1\"/>");
-    entries += "<InventoryComponent osCode=\"W22\" path=\"c.exe\" dateTime=\"" + kNines + "\" releaseDate=\"" +
-               kZeros + "\"/>\n";
+                         "<Device componentID=\"" +
+                             kNines + "\" embedded=\"" + kZeros +
+                             "\">"
+                             "<PCIInfo deviceID=\"" +
+                             kEffs + "\" vendorID=\"" + kNines + "\" subDeviceID=\"" + kZeros + "1\" subVendorID=\"-" +
+                             kNines +
+                             "\"/></Device>"
+                             "<Device componentID=\"" +
+                             kZeros + "159\" embedded=\"" + kNines +
+                             "\"/>"
+                             "</SupportedDevices><SupportedSystems display=\"" +
+                             kZeros + "1\"/>");
+    entries += "<InventoryComponent osCode=\"W22\" path=\"c.exe\" dateTime=\"" + kNines + "\" releaseDate=\"" + kZeros +
+               "\"/>\n";
     const std::string xml = Catalog("baseLocation=\"b\" dateTime=\"" + kNines + "\"", entries);
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("numbers.xml", xml))));
@@ -166,17 +173,26 @@ TEST(HostileNumber, CatalogNumbersOfTenThousandDigits)
     // An inventory whose numbers are as long: the largest system id finds
     // the bundle made for it, the largest component id the device made for
     // it.
-    const std::string inventory =
-        "<SVMInventory lang=\"en\" timeStamp=\"" + kNines + "\">\n"
-        "<OperatingSystem osVendor=\"Example\" suiteMask=\"" + kNines + "\"/>\n"
-        "<System systemID=\"" + kEffs + "\"/>\n"
-        "<Device componentID=\"" + kNines + "\" display=\"Big\" bus=\"" + kNines + "\" device=\"" + kZeros +
-        "\" function=\"-" + kNines + "\" vendorID=\"" + kEffs + "\" deviceID=\"" + kZeros + "1\" subDeviceID=\"" +
-        kNines + "\" subVendorID=\"" + kEffs + "\" componentInstance=\"" + kNines + "\">"
-        "<Application componentType=\"BIOS\" version=\"1\" display=\"Big BIOS\"/></Device>\n"
-        "<Device componentID=\"" + kZeros + "159\" display=\"BIOS\">"
-        "<Application componentType=\"BIOS\" version=\"0\" display=\"BIOS\"/></Device>\n"
-        "</SVMInventory>\n";
+    const std::string inventory = "<SVMInventory lang=\"en\" timeStamp=\"" + kNines +
+                                  "\">\n"
+                                  "<OperatingSystem osVendor=\"Example\" suiteMask=\"" +
+                                  kNines +
+                                  "\"/>\n"
+                                  "<System systemID=\"" +
+                                  kEffs +
+                                  "\"/>\n"
+                                  "<Device componentID=\"" +
+                                  kNines + "\" display=\"Big\" bus=\"" + kNines + "\" device=\"" + kZeros +
+                                  "\" function=\"-" + kNines + "\" vendorID=\"" + kEffs + "\" deviceID=\"" + kZeros +
+                                  "1\" subDeviceID=\"" + kNines + "\" subVendorID=\"" + kEffs +
+                                  "\" componentInstance=\"" + kNines +
+                                  "\">"
+                                  "<Application componentType=\"BIOS\" version=\"1\" display=\"Big BIOS\"/></Device>\n"
+                                  "<Device componentID=\"" +
+                                  kZeros +
+                                  "159\" display=\"BIOS\">"
+                                  "<Application componentType=\"BIOS\" version=\"0\" display=\"BIOS\"/></Device>\n"
+                                  "</SVMInventory>\n";
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("inventory.xml", inventory))));
     EXPECT_EQ(kLargest, API()->GetInventoryTimeStamp().GetValue());
     std::vector<QRMOperatingSystem> oses;
@@ -253,8 +269,8 @@ TEST(HostileNumber, CatalogVersionsOfAHundredThousandFieldsPickTheNewer)
     TempDir dir;
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(kExampleInventory)));
     for (bool newerFirst : {false, true}) {
-        const std::string xml = newerFirst ? TwoVersionsCatalog(kSevensThenEight, kSevens)
-                                           : TwoVersionsCatalog(kSevens, kSevensThenEight);
+        const std::string xml =
+            newerFirst ? TwoVersionsCatalog(kSevensThenEight, kSevens) : TwoVersionsCatalog(kSevens, kSevensThenEight);
         ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("versions.xml", xml))));
         ASSERT_EQ(2u, StoredComponents().size());
         std::map<QRMIApplication*, QRMSoftwareComponent*> updates;

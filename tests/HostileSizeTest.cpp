@@ -36,8 +36,8 @@ const std::string kPackage = "<Package path=\"PKG.EXE\" packageID=\"P1\"/>";
 std::string Component(const std::string& devices, const std::string& name = "Component",
                       const std::string& version = "2.4.1")
 {
-    return "<SoftwareComponent path=\"dir/PKG.EXE\" vendorVersion=\"" + version +
-           "\"><Name><Display lang=\"en\">" + name +
+    return "<SoftwareComponent path=\"dir/PKG.EXE\" vendorVersion=\"" + version + "\"><Name><Display lang=\"en\">" +
+           name +
            "</Display></Name><ComponentType value=\"BIOS\"/><Category value=\"BI\"><Display lang=\"en\">BIOS"
            "</Display></Category><SupportedDevices>" +
            devices + "</SupportedDevices></SoftwareComponent>\n";
@@ -109,8 +109,9 @@ TEST(HostileSize, CatalogAttributeOf50MegabytesIsKeptWhole)
 {
     TempDir dir;
     const std::string base = "b" + std::string(50 * kMegabyte - 2, 'x') + "e";
-    const std::string xml = Catalog("baseLocation=\"" + base + "\"", Bundle(kPackage) + Component(kDevice159) +
-                                                                      "<InventoryComponent osCode=\"W22\" path=\"c.exe\"/>");
+    const std::string xml =
+        Catalog("baseLocation=\"" + base + "\"",
+                Bundle(kPackage) + Component(kDevice159) + "<InventoryComponent osCode=\"W22\" path=\"c.exe\"/>");
     const std::string path = dir.Write("big.xml", xml);
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(path)));
@@ -280,9 +281,9 @@ TEST(HostileSize, CatalogRootWithAMillionUnknownChildrenReadsItsEntries)
 TEST(HostileSize, BundleWithAMillionPackagesKeepsThemAll)
 {
     TempDir dir;
-    const std::string xml = Catalog(
-        "baseLocation=\"b\"", Bundle(Repeat("<Package path=\"x.exe\"/>", kMillion - 1) + kPackage) +
-                                  Component(kDevice159));
+    const std::string xml =
+        Catalog("baseLocation=\"b\"",
+                Bundle(Repeat("<Package path=\"x.exe\"/>", kMillion - 1) + kPackage) + Component(kDevice159));
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
     ASSERT_EQ(1u, StoredBundles().size());
@@ -301,7 +302,8 @@ TEST(HostileSize, BundleWithAMillionPackagesKeepsThemAll)
 TEST(HostileSize, AMillionEmptyBundlesStopAtTheFirst)
 {
     TempDir dir;
-    const std::string xml = Catalog("baseLocation=\"b\"", Component(kDevice159) + Repeat("<SoftwareBundle/>", kMillion));
+    const std::string xml =
+        Catalog("baseLocation=\"b\"", Component(kDevice159) + Repeat("<SoftwareBundle/>", kMillion));
     const std::size_t before = PeakResidentBytes();
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
@@ -317,8 +319,7 @@ TEST(HostileSize, AMillionEmptyBundlesStopAtTheFirst)
 TEST(HostileSize, ComponentWithAMillionEqualDevicesKeepsOne)
 {
     TempDir dir;
-    const std::string xml =
-        Catalog("baseLocation=\"b\"", Bundle(kPackage) + Component(Repeat(kDevice159, kMillion)));
+    const std::string xml = Catalog("baseLocation=\"b\"", Bundle(kPackage) + Component(Repeat(kDevice159, kMillion)));
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
@@ -363,10 +364,9 @@ TEST(HostileSize, InventoryRootWithAMillionUnknownChildrenReadsItsDevices)
 TEST(HostileSize, DeviceWithAMillionEqualApplicationsKeepsOne)
 {
     TempDir dir;
-    const std::string xml =
-        Inventory("<Device componentID=\"159\" display=\"BIOS\">" +
-                  Repeat("<Application componentType=\"BIOS\" version=\"2.3.9\" display=\"BIOS\"/>", kMillion) +
-                  "</Device>\n");
+    const std::string xml = Inventory(
+        "<Device componentID=\"159\" display=\"BIOS\">" +
+        Repeat("<Application componentType=\"BIOS\" version=\"2.3.9\" display=\"BIOS\"/>", kMillion) + "</Device>\n");
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
@@ -418,8 +418,7 @@ std::string CrowdedCatalog(const std::string& category)
     const std::string extra = ExtraAttributes(1000);
     const std::string children = Repeat("<Extra/>", 1000);
     return Catalog("baseLocation=\"b\"" + extra,
-                   "<SoftwareBundle" + extra +
-                       " bundleID=\"B.00009\" bundleType=\"BTW64\">" + children +
+                   "<SoftwareBundle" + extra + " bundleID=\"B.00009\" bundleType=\"BTW64\">" + children +
                        "<Name><Display lang=\"en\">Bundle</Display></Name><ComponentType value=\"SBDL\"/>"
                        "<TargetSystems><Brand key=\"1\" prefix=\"P\"><Model systemID=\"0A6B\"/></Brand>"
                        "</TargetSystems><Contents>" +
@@ -428,8 +427,7 @@ std::string CrowdedCatalog(const std::string& category)
                        "<SoftwareComponent" +
                        extra + " path=\"dir/PKG.EXE\" vendorVersion=\"2.4.1\">" + children +
                        "<Name><Display lang=\"en\">Component</Display></Name><ComponentType value=\"BIOS\"/>" +
-                       category +
-                       "<SupportedDevices>" + kDevice159 +
+                       category + "<SupportedDevices>" + kDevice159 +
                        "</SupportedDevices><SupportedOperatingSystems><OperatingSystem" + extra +
                        " osArch=\"x64\" osCode=\"W22\" osVendor=\"Example\"/></SupportedOperatingSystems>"
                        "</SoftwareComponent>\n");

@@ -15,8 +15,7 @@ QRMKitAPI* API() { return QRMKitAPI::Instance(); }
 
 std::string S(const VELString& text) { return text.GetUTF8String(); }
 
-QRMKitReturnCode ParseCatalog(const TempDir& dir, const std::string& rootAttributes,
-                              const std::string& entries)
+QRMKitReturnCode ParseCatalog(const TempDir& dir, const std::string& rootAttributes, const std::string& entries)
 {
     std::string xml = CatalogXML::Document(rootAttributes, entries);
     return API()->Parse(VELFile(dir.Write("catalog.xml", xml)));
@@ -38,8 +37,7 @@ std::vector<QRMInventoryComponent> Stored()
 std::unique_ptr<const QRMInventoryComponent> Lookup(const char* osCode,
                                                     QRMOSArchitectureEnum architecture = QRM_OS_ARCH_X64)
 {
-    return std::unique_ptr<const QRMInventoryComponent>(
-        API()->GetInventoryComponent(architecture, VELString(osCode)));
+    return std::unique_ptr<const QRMInventoryComponent>(API()->GetInventoryComponent(architecture, VELString(osCode)));
 }
 
 std::string File(const char* osCode, QRMOSArchitectureEnum architecture = QRM_OS_ARCH_X64)
@@ -78,8 +76,7 @@ TEST(InventoryComponentReader, AllNineAttributesAreRead)
 TEST(InventoryComponentReader, DatesAreReadAsDecimal)
 {
     TempDir dir;
-    ASSERT_EQ(QRM_KIT_SUCCESS,
-              ParseEntries(dir, "<InventoryComponent dateTime=\"0100\" releaseDate=\"0042\"/>"));
+    ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, "<InventoryComponent dateTime=\"0100\" releaseDate=\"0042\"/>"));
     std::vector<QRMInventoryComponent> stored = Stored();
     ASSERT_EQ(1u, stored.size());
     EXPECT_EQ(100u, stored[0].GetDateTime().GetValue());
@@ -109,10 +106,9 @@ TEST(InventoryComponentReader, MissingAttributesAreEmptyOrZero)
 TEST(InventoryComponentReader, ChildElementsAreIgnored)
 {
     TempDir dir;
-    std::string entries =
-        "<InventoryComponent osCode=\"WIN\" path=\"w.exe\"><Display lang=\"en\">Collector</Display>"
-        "<InventoryComponent osCode=\"NESTED\" path=\"n.exe\"/><Name/></InventoryComponent>" +
-        CatalogXML::InventoryComponent("LX", "l.bin");
+    std::string entries = "<InventoryComponent osCode=\"WIN\" path=\"w.exe\"><Display lang=\"en\">Collector</Display>"
+                          "<InventoryComponent osCode=\"NESTED\" path=\"n.exe\"/><Name/></InventoryComponent>" +
+                          CatalogXML::InventoryComponent("LX", "l.bin");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
     std::vector<QRMInventoryComponent> stored = Stored();
     ASSERT_EQ(2u, stored.size());
@@ -141,8 +137,8 @@ TEST(InventoryComponentReader, EntriesKeepCatalogOrderAmongOtherEntries)
 TEST(InventoryComponentReader, TwoEntriesWithTheSameOSCodeAreBothStoredAndTheFirstIsFound)
 {
     TempDir dir;
-    std::string entries = CatalogXML::InventoryComponent("WIN", "first.exe") +
-                          CatalogXML::InventoryComponent("WIN", "second.exe");
+    std::string entries =
+        CatalogXML::InventoryComponent("WIN", "first.exe") + CatalogXML::InventoryComponent("WIN", "second.exe");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
     std::vector<QRMInventoryComponent> stored = Stored();
     ASSERT_EQ(2u, stored.size());
@@ -206,8 +202,7 @@ TEST(InventoryComponentLookup, EmptyCatalogFindsNothingAndPrintsNothing)
 TEST(InventoryComponentLookup, EntryWithoutOSCodeIsFoundOnlyByAnEmptyCode)
 {
     TempDir dir;
-    std::string entries = "<InventoryComponent path=\"nocode.exe\"/>" +
-                          CatalogXML::InventoryComponent("WIN", "w.exe");
+    std::string entries = "<InventoryComponent path=\"nocode.exe\"/>" + CatalogXML::InventoryComponent("WIN", "w.exe");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
     std::unique_ptr<const QRMInventoryComponent> found = Lookup("");
     ASSERT_NE(nullptr, found);
@@ -222,12 +217,15 @@ TEST(InventoryComponentLookup, EntryWithoutOSCodeIsFoundOnlyByAnEmptyCode)
 TEST(InventoryComponentLookup, AnyArchitectureValueReturnsTheSameEntry)
 {
     TempDir dir;
-    std::string entries = CatalogXML::InventoryComponent("LX", "linux.bin") +
-                          CatalogXML::InventoryComponent("WIN", "windows.exe");
+    std::string entries =
+        CatalogXML::InventoryComponent("LX", "linux.bin") + CatalogXML::InventoryComponent("WIN", "windows.exe");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
-    const QRMOSArchitectureEnum architectures[] = {
-        QRM_OS_ARCH_X86, QRM_OS_ARCH_X64, QRM_OS_ARCH_IA64, QRM_OS_ARCH_IA32,
-        static_cast<QRMOSArchitectureEnum>(99), static_cast<QRMOSArchitectureEnum>(-1)};
+    const QRMOSArchitectureEnum architectures[] = {QRM_OS_ARCH_X86,
+                                                   QRM_OS_ARCH_X64,
+                                                   QRM_OS_ARCH_IA64,
+                                                   QRM_OS_ARCH_IA32,
+                                                   static_cast<QRMOSArchitectureEnum>(99),
+                                                   static_cast<QRMOSArchitectureEnum>(-1)};
     std::unique_ptr<const QRMInventoryComponent> reference = Lookup("WIN", QRM_OS_ARCH_X86);
     ASSERT_NE(nullptr, reference);
     EXPECT_EQ("windows.exe", S(reference->GetPath()));
@@ -235,8 +233,7 @@ TEST(InventoryComponentLookup, AnyArchitectureValueReturnsTheSameEntry)
         std::unique_ptr<const QRMInventoryComponent> found = Lookup("WIN", architecture);
         ASSERT_NE(nullptr, found) << static_cast<int>(architecture);
         EXPECT_TRUE(*found == *reference) << static_cast<int>(architecture);
-        EXPECT_EQ("downloads/catalog/windows.exe", File("WIN", architecture))
-            << static_cast<int>(architecture);
+        EXPECT_EQ("downloads/catalog/windows.exe", File("WIN", architecture)) << static_cast<int>(architecture);
     }
 }
 
@@ -297,8 +294,7 @@ TEST(InventoryComponentFile, BaseLocationEndingInSlashGivesADoubledSlash)
 TEST(InventoryComponentFile, PathsAreJoinedAsTheyStand)
 {
     TempDir dir;
-    std::string entries = CatalogXML::InventoryComponent("A", "/abs.exe") +
-                          CatalogXML::InventoryComponent("B", "") +
+    std::string entries = CatalogXML::InventoryComponent("A", "/abs.exe") + CatalogXML::InventoryComponent("B", "") +
                           CatalogXML::InventoryComponent("C", "sub\\win.exe");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseCatalog(dir, "baseLocation=\"https://dl.example.com/x\"", entries));
     EXPECT_EQ("https://dl.example.com/x//abs.exe", File("A"));

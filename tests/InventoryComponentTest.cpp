@@ -230,7 +230,8 @@ TEST(QRMInventoryComponent, DifferentMD5HashMakesComponentsUnequal)
 
 TEST(QRMInventoryComponent, DifferentPathMakesComponentsUnequal)
 {
-    ExpectDifferenceMakesUnequal([](QRMInventoryComponent& c) { return c.SetPath(VELString("collectors/invcol.bin ")); });
+    ExpectDifferenceMakesUnequal(
+        [](QRMInventoryComponent& c) { return c.SetPath(VELString("collectors/invcol.bin ")); });
 }
 
 TEST(QRMInventoryComponent, DifferentDateTimeMakesComponentsUnequal)

@@ -22,8 +22,7 @@ QRMKitAPI* API() { return QRMKitAPI::Instance(); }
 
 std::string Inventory(const std::string& children, const std::string& rootAttributes = "lang=\"en\"")
 {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Inventory " + rootAttributes + ">" + children +
-           "</Inventory>";
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<Inventory " + rootAttributes + ">" + children + "</Inventory>";
 }
 
 QRMKitReturnCode ParseText(const TempDir& dir, const std::string& name, const std::string& xml)
@@ -93,11 +92,10 @@ Texts DisplayTexts(const Holder& holder)
     return texts;
 }
 
-std::string Device(const std::string& display, const std::string& applications = "",
-                   const std::string& attributes = "")
+std::string Device(const std::string& display, const std::string& applications = "", const std::string& attributes = "")
 {
-    return "<Device display=\"" + display + "\"" + (attributes.empty() ? "" : " " + attributes) + ">" +
-           applications + "</Device>";
+    return "<Device display=\"" + display + "\"" + (attributes.empty() ? "" : " " + attributes) + ">" + applications +
+           "</Device>";
 }
 
 std::string Application(const std::string& attributes, const std::string& children = "")
@@ -251,13 +249,12 @@ TEST(InventoryReaderDevice, DeviceWithoutDisplayIsDroppedAndALaterGoodDeviceMake
 TEST(InventoryReaderDevice, DeviceWithoutDisplayAsLastChildFailsTheCallAndKeepsEarlierChildren)
 {
     TempDir dir;
-    std::string xml = Inventory("<OperatingSystem osCode=\"WIN\" osVendor=\"Maker\"/>"
-                                "<System systemID=\"0A6B\"/>" +
-                                Device("Kept") +
-                                "<Device bus=\"2\">" +
-                                Application("componentType=\"BIOS\" version=\"1\" display=\"Firmware\"") +
-                                "</Device>",
-                                "lang=\"de\" schemaVersion=\"3\"");
+    std::string xml =
+        Inventory("<OperatingSystem osCode=\"WIN\" osVendor=\"Maker\"/>"
+                  "<System systemID=\"0A6B\"/>" +
+                      Device("Kept") + "<Device bus=\"2\">" +
+                      Application("componentType=\"BIOS\" version=\"1\" display=\"Firmware\"") + "</Device>",
+                  "lang=\"de\" schemaVersion=\"3\"");
     EXPECT_EQ(QRM_KIT_FAILURE, ParseText(dir, "inventory.xml", xml));
     EXPECT_FALSE(API()->IsInventoryParsed());
     std::vector<QRMIDevice*> none;
@@ -295,10 +292,9 @@ class InventoryReaderDroppedDeviceFollowedBy : public ::testing::TestWithParam<L
 TEST_P(InventoryReaderDroppedDeviceFollowedBy, ReturnsTheStatusOfTheLastRecordedChild)
 {
     TempDir dir;
-    std::string earlier = "<OperatingSystem osCode=\"WIN\" osVendor=\"Maker\"/><System systemID=\"1\"/>" +
-                          Device("Earlier");
-    EXPECT_EQ(GetParam().expected,
-              ParseText(dir, "inventory.xml", Inventory(earlier + kDropped + GetParam().xml)));
+    std::string earlier =
+        "<OperatingSystem osCode=\"WIN\" osVendor=\"Maker\"/><System systemID=\"1\"/>" + Device("Earlier");
+    EXPECT_EQ(GetParam().expected, ParseText(dir, "inventory.xml", Inventory(earlier + kDropped + GetParam().xml)));
     EXPECT_EQ(GetParam().parsed, API()->IsInventoryParsed());
     EXPECT_EQ(1u, API()->GetSystemIDFromInventory());
     std::vector<std::string> displays = DeviceDisplaysAfterAnEmptyRead(dir);
@@ -315,10 +311,9 @@ INSTANTIATE_TEST_SUITE_P(
         LaterChild{"AnotherDroppedDevice", "<Device vendorID=\"1\"/>", QRM_KIT_FAILURE, false},
         LaterChild{"GoodDevice", Device("Good"), QRM_KIT_SUCCESS, true},
         LaterChild{"DuplicateDevice", Device("Earlier"), QRM_KIT_SUCCESS, true},
-        LaterChild{"OperatingSystem", "<OperatingSystem osCode=\"LNX\" osVendor=\"Maker\"/>", QRM_KIT_SUCCESS,
+        LaterChild{"OperatingSystem", "<OperatingSystem osCode=\"LNX\" osVendor=\"Maker\"/>", QRM_KIT_SUCCESS, true},
+        LaterChild{"DuplicateOperatingSystem", "<OperatingSystem osCode=\"WIN\" osVendor=\"Maker\"/>", QRM_KIT_SUCCESS,
                    true},
-        LaterChild{"DuplicateOperatingSystem", "<OperatingSystem osCode=\"WIN\" osVendor=\"Maker\"/>",
-                   QRM_KIT_SUCCESS, true},
         LaterChild{"DuplicateSystem", "<System systemID=\"1\"/>", QRM_KIT_SUCCESS, true}),
     [](const ::testing::TestParamInfo<LaterChild>& info) { return std::string(info.param.label); });
 
@@ -458,12 +453,12 @@ TEST(InventoryReaderApplication, SubComponentIDIsOptional)
 TEST(InventoryReaderApplication, AbsentSubComponentIDKeepsThePreviousApplicationsValueWithinADevice)
 {
     TempDir dir;
-    ParseChildren(dir, Device("Adapter",
-                              Application("componentType=\"FRMW\" version=\"1\" display=\"a\" subComponentID=\"S1\"") +
-                                  Application("componentType=\"FRMW\" version=\"2\" display=\"b\"") +
-                                  Application("componentType=\"FRMW\" version=\"3\" display=\"c\" "
-                                              "subComponentID=\"\"") +
-                                  Application("componentType=\"FRMW\" version=\"4\" display=\"d\"")));
+    ParseChildren(
+        dir, Device("Adapter", Application("componentType=\"FRMW\" version=\"1\" display=\"a\" subComponentID=\"S1\"") +
+                                   Application("componentType=\"FRMW\" version=\"2\" display=\"b\"") +
+                                   Application("componentType=\"FRMW\" version=\"3\" display=\"c\" "
+                                               "subComponentID=\"\"") +
+                                   Application("componentType=\"FRMW\" version=\"4\" display=\"d\"")));
     std::vector<QRMIApplication*> applications = ApplicationsOfTheOnlyDevice();
     ASSERT_EQ(4u, applications.size());
     EXPECT_EQ("S1", U8(applications[0]->GetSubComponentID()));
@@ -491,21 +486,27 @@ TEST(InventoryReaderApplication, SubComponentIDDoesNotCarryOverToTheNextDevice)
 TEST(InventoryReaderApplication, DisplayValuesAccumulateWithinADeviceAndTheEarlierTextWins)
 {
     TempDir dir;
-    ParseChildren(dir, Device("Adapter",
-                              Application("componentType=\"DRVR\" version=\"1\" display=\"a\"",
-                                          "<Display lang=\"en\">First English</Display>") +
-                                  Application("componentType=\"DRVR\" version=\"2\" display=\"b\"",
-                                              "<Display lang=\"en\">Second English</Display>"
-                                              "<Display lang=\"fr\">Fran\xC3\xA7" "ais</Display>") +
-                                  Application("componentType=\"DRVR\" version=\"3\" display=\"c\"")) +
+    ParseChildren(dir, Device("Adapter", Application("componentType=\"DRVR\" version=\"1\" display=\"a\"",
+                                                     "<Display lang=\"en\">First English</Display>") +
+                                             Application("componentType=\"DRVR\" version=\"2\" display=\"b\"",
+                                                         "<Display lang=\"en\">Second English</Display>"
+                                                         "<Display lang=\"fr\">Fran\xC3\xA7"
+                                                         "ais</Display>") +
+                                             Application("componentType=\"DRVR\" version=\"3\" display=\"c\"")) +
                            Device("Next", Application("componentType=\"DRVR\" version=\"1\" display=\"a\"")));
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
     std::vector<QRMIApplication*> applications = ApplicationsOf(*devices[0]);
     ASSERT_EQ(3u, applications.size());
     EXPECT_EQ((Texts{{"en", "First English"}}), DisplayTexts(*applications[0]));
-    EXPECT_EQ((Texts{{"en", "First English"}, {"fr", "Fran\xC3\xA7" "ais"}}), DisplayTexts(*applications[1]));
-    EXPECT_EQ((Texts{{"en", "First English"}, {"fr", "Fran\xC3\xA7" "ais"}}), DisplayTexts(*applications[2]));
+    EXPECT_EQ((Texts{{"en", "First English"},
+                     {"fr", "Fran\xC3\xA7"
+                            "ais"}}),
+              DisplayTexts(*applications[1]));
+    EXPECT_EQ((Texts{{"en", "First English"},
+                     {"fr", "Fran\xC3\xA7"
+                            "ais"}}),
+              DisplayTexts(*applications[2]));
 
     std::vector<QRMIApplication*> next = ApplicationsOf(*devices[1]);
     ASSERT_EQ(1u, next.size());
@@ -515,14 +516,17 @@ TEST(InventoryReaderApplication, DisplayValuesAccumulateWithinADeviceAndTheEarli
 TEST(InventoryReaderApplication, DisplayValuesOfASkippedApplicationCarryOver)
 {
     TempDir dir;
-    ParseChildren(dir, Device("Adapter", Application("componentType=\"BIOS\"",
-                                                     "<Display lang=\"de\">Vom \xC3\xBC" "bersprungenen</Display>") +
+    ParseChildren(dir, Device("Adapter", Application("componentType=\"BIOS\"", "<Display lang=\"de\">Vom \xC3\xBC"
+                                                                               "bersprungenen</Display>") +
                                              Application("", "<Display lang=\"ja\">skipped too</Display>") +
                                              Application("componentType=\"BIOS\" version=\"1\" display=\"Stored\"")));
     std::vector<QRMIApplication*> applications = ApplicationsOfTheOnlyDevice();
     ASSERT_EQ(1u, applications.size());
     EXPECT_EQ("Stored", U8(applications[0]->GetDisplay()));
-    EXPECT_EQ((Texts{{"de", "Vom \xC3\xBC" "bersprungenen"}, {"ja", "skipped too"}}), DisplayTexts(*applications[0]));
+    EXPECT_EQ((Texts{{"de", "Vom \xC3\xBC"
+                            "bersprungenen"},
+                     {"ja", "skipped too"}}),
+              DisplayTexts(*applications[0]));
 }
 
 TEST(InventoryReaderApplication, ComponentTypeOfASkippedApplicationCarriesOver)
@@ -588,10 +592,10 @@ TEST(InventoryReaderApplication, ComponentTypeDoesNotCarryOverFromAnEarlierCall)
     ASSERT_EQ(QRM_KIT_SUCCESS,
               ParseText(dir, "one.xml",
                         Inventory(Device("First", Application("componentType=\"APP\" version=\"1\" display=\"a\"")))));
-    ASSERT_EQ(QRM_KIT_SUCCESS,
-              ParseText(dir, "two.xml",
-                        Inventory(Device("Second",
-                                         Application("componentType=\"SBDL\" version=\"1\" display=\"b\"")))));
+    ASSERT_EQ(
+        QRM_KIT_SUCCESS,
+        ParseText(dir, "two.xml",
+                  Inventory(Device("Second", Application("componentType=\"SBDL\" version=\"1\" display=\"b\"")))));
     std::vector<QRMIDevice*> devices = Devices();
     ASSERT_EQ(2u, devices.size());
     std::vector<QRMIApplication*> first = ApplicationsOf(*devices[0]);
@@ -642,7 +646,8 @@ TEST(InventoryReaderEncoding, UTF16LittleEndianInventoryReadsLikeItsUTF8Twin)
         "<Display lang=\"fr\">Carte r\xC3\xA9seau</Display></Device>"
         "<Device display=\"Disk\" bus=\"2\">" +
         Application("componentType=\"FRMW\" version=\"1. 2\" display=\"Firmware \xE2\x82\xAC\" subComponentID=\"S\"",
-                    "<Display lang=\"de\">Gr\xC3\xB6\xC3\x9F" "e</Display>") +
+                    "<Display lang=\"de\">Gr\xC3\xB6\xC3\x9F"
+                    "e</Display>") +
         "</Device></Inventory>";
     TempDir dir;
 
@@ -665,7 +670,9 @@ TEST(InventoryReaderEncoding, UTF16LittleEndianInventoryReadsLikeItsUTF8Twin)
     ASSERT_EQ(1u, applications.size());
     EXPECT_EQ("Firmware \xE2\x82\xAC", U8(applications[0]->GetDisplay()));
     EXPECT_EQ("1.2", U8(applications[0]->GetVersion()));
-    EXPECT_EQ((Texts{{"de", "Gr\xC3\xB6\xC3\x9F" "e"}}), DisplayTexts(*applications[0]));
+    EXPECT_EQ((Texts{{"de", "Gr\xC3\xB6\xC3\x9F"
+                            "e"}}),
+              DisplayTexts(*applications[0]));
 
     // Other root values, so that the UTF-16 read is seen to set them again.
     ASSERT_EQ(QRM_KIT_SUCCESS,

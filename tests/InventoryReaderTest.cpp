@@ -24,8 +24,8 @@ QRMKitAPI* API() { return QRMKitAPI::Instance(); }
 std::string Inventory(const std::string& children, const std::string& rootAttributes = "lang=\"en\"",
                       const std::string& rootName = "Inventory")
 {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<" + rootName + " " + rootAttributes + ">" +
-           children + "</" + rootName + ">";
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<" + rootName + " " + rootAttributes + ">" + children + "</" +
+           rootName + ">";
 }
 
 QRMKitReturnCode ParseText(const TempDir& dir, const std::string& name, const std::string& xml)
@@ -110,8 +110,8 @@ const char* const kPlainDevice = "<Device display=\"First device\" bus=\"1\"/>";
 TEST(InventoryReaderRoot, RootWithoutLangFailsAndStoresNothing)
 {
     TempDir dir;
-    std::string xml = Inventory(std::string(kOS) + kSystem + kPlainDevice,
-                                "schemaVersion=\"2.0\" timeStamp=\"1700000000\"");
+    std::string xml =
+        Inventory(std::string(kOS) + kSystem + kPlainDevice, "schemaVersion=\"2.0\" timeStamp=\"1700000000\"");
     EXPECT_EQ(QRM_KIT_FAILURE, ParseText(dir, "inventory.xml", xml));
 
     EXPECT_FALSE(API()->IsInventoryParsed());
@@ -170,10 +170,9 @@ TEST(InventoryReaderRoot, EachLanguageTextMapsToItsValue)
 {
     // Listed so that every read changes the stored language.
     const std::vector<std::pair<std::string, QRMInventoryLanguageEnum>> languages = {
-        {"ta", QRM_LANG_TA}, {"te", QRM_LANG_TE}, {"kn", QRM_LANG_KN},
-        {"hi", QRM_LANG_HI}, {"ja", QRM_LANG_JA}, {"zh-Hant", QRM_LANG_ZH_HANT},
-        {"zh-Hans", QRM_LANG_ZH_HANS}, {"es", QRM_LANG_ES}, {"de", QRM_LANG_DE},
-        {"fr", QRM_LANG_FR}, {"en", QRM_LANG_EN},
+        {"ta", QRM_LANG_TA}, {"te", QRM_LANG_TE},           {"kn", QRM_LANG_KN},           {"hi", QRM_LANG_HI},
+        {"ja", QRM_LANG_JA}, {"zh-Hant", QRM_LANG_ZH_HANT}, {"zh-Hans", QRM_LANG_ZH_HANS}, {"es", QRM_LANG_ES},
+        {"de", QRM_LANG_DE}, {"fr", QRM_LANG_FR},           {"en", QRM_LANG_EN},
     };
     TempDir dir;
     for (const auto& [text, value] : languages) {
@@ -373,11 +372,11 @@ TEST(InventoryReaderStore, ReadsAccumulateAcrossFiles)
 {
     TempDir dir;
     ASSERT_EQ(QRM_KIT_SUCCESS,
-              ParseText(dir, "one.xml", Inventory("<OperatingSystem osCode=\"A\" osVendor=\"Maker\"/>" +
-                                                  std::string(kPlainDevice))));
-    ASSERT_EQ(QRM_KIT_SUCCESS,
-              ParseText(dir, "two.xml", Inventory("<OperatingSystem osCode=\"B\" osVendor=\"Maker\"/>"
-                                                  "<Device display=\"Second device\"/>")));
+              ParseText(dir, "one.xml",
+                        Inventory("<OperatingSystem osCode=\"A\" osVendor=\"Maker\"/>" + std::string(kPlainDevice))));
+    ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, "two.xml",
+                                         Inventory("<OperatingSystem osCode=\"B\" osVendor=\"Maker\"/>"
+                                                   "<Device display=\"Second device\"/>")));
     EXPECT_EQ((std::vector<std::string>{"A", "B"}), OSCodes());
     std::vector<QRMIDevice*> devices;
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->GetInventory(devices));
@@ -439,9 +438,11 @@ TEST(InventoryReaderSystem, EachSystemIDTypeTextMapsToItsValueAndOthersToZero)
     std::vector<QRMISystem> systems = Systems();
     ASSERT_EQ(9u, systems.size());
     const QRMSystemIDTypeEnum expected[] = {
-        QRM_SYSTEMID_TYPE_BIOS,   QRM_SYSTEMID_TYPE_MULTISYSTEMCHASSIS, QRM_SYSTEMID_TYPE_RAIDCHASSIS,
-        QRM_SYSTEMID_TYPE_ROUTER, QRM_SYSTEMID_TYPE_NETWORKSWITCH,      QRM_SYSTEMID_TYPE_BIOS,
-        QRM_SYSTEMID_TYPE_BIOS,   QRM_SYSTEMID_TYPE_BIOS,               QRM_SYSTEMID_TYPE_BIOS,
+        QRM_SYSTEMID_TYPE_BIOS,          QRM_SYSTEMID_TYPE_MULTISYSTEMCHASSIS,
+        QRM_SYSTEMID_TYPE_RAIDCHASSIS,   QRM_SYSTEMID_TYPE_ROUTER,
+        QRM_SYSTEMID_TYPE_NETWORKSWITCH, QRM_SYSTEMID_TYPE_BIOS,
+        QRM_SYSTEMID_TYPE_BIOS,          QRM_SYSTEMID_TYPE_BIOS,
+        QRM_SYSTEMID_TYPE_BIOS,
     };
     for (std::size_t i = 0; i < systems.size(); ++i) {
         EXPECT_EQ(i + 1, systems[i].GetSystemID());
@@ -559,10 +560,10 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(InventoryReaderSystem, SystemWithoutSystemIDFailsTheCallAfterEarlierChildrenWereStored)
 {
     TempDir dir;
-    std::string xml = Inventory(std::string(kOS) + kPlainDevice + "<System systemID=\"2\"/>" +
-                                "<System display=\"No id\"/>" +
-                                "<OperatingSystem osCode=\"LATER\" osVendor=\"Maker\"/>"
-                                "<System systemID=\"3\"/><Device display=\"Later device\"/>");
+    std::string xml =
+        Inventory(std::string(kOS) + kPlainDevice + "<System systemID=\"2\"/>" + "<System display=\"No id\"/>" +
+                  "<OperatingSystem osCode=\"LATER\" osVendor=\"Maker\"/>"
+                  "<System systemID=\"3\"/><Device display=\"Later device\"/>");
     EXPECT_EQ(QRM_KIT_FAILURE, ParseText(dir, "inventory.xml", xml));
     EXPECT_FALSE(API()->IsInventoryParsed());
     EXPECT_EQ(std::vector<std::string>{"WIN"}, OSCodes());
@@ -648,7 +649,7 @@ TEST(InventoryReaderOperatingSystem, EachArchitectureTextMapsToItsValueAndOthers
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, "inventory.xml", xml));
     std::vector<QRMOperatingSystem> oses = OperatingSystems();
     ASSERT_EQ(8u, oses.size());
-    const QRMOSArchitectureEnum expected[] = {QRM_OS_ARCH_X64, QRM_OS_ARCH_X86,  QRM_OS_ARCH_IA64, QRM_OS_ARCH_X86,
+    const QRMOSArchitectureEnum expected[] = {QRM_OS_ARCH_X64,  QRM_OS_ARCH_X86, QRM_OS_ARCH_IA64, QRM_OS_ARCH_X86,
                                               QRM_OS_ARCH_IA32, QRM_OS_ARCH_X86, QRM_OS_ARCH_X86,  QRM_OS_ARCH_X86};
     for (std::size_t i = 0; i < oses.size(); ++i) {
         EXPECT_EQ(expected[i], oses[i].GetArchitecture()) << U8(oses[i].GetCode());
@@ -692,8 +693,7 @@ TEST(InventoryReaderOperatingSystem, DisplayChildrenWithLangAreStoredOthersSkipp
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, "inventory.xml", xml));
     std::vector<QRMOperatingSystem> oses = OperatingSystems();
     ASSERT_EQ(1u, oses.size());
-    EXPECT_EQ((Texts{{"en", "Desktop system"}, {"ja", "\xE3\x83\x87\xE3\x82\xB9\xE3\x82\xAF"}}),
-              DisplayTexts(oses[0]));
+    EXPECT_EQ((Texts{{"en", "Desktop system"}, {"ja", "\xE3\x83\x87\xE3\x82\xB9\xE3\x82\xAF"}}), DisplayTexts(oses[0]));
     EXPECT_TRUE(API()->IsInventoryParsed());
 }
 

@@ -144,8 +144,7 @@ TEST(QRMOperatingSystemTexts, AddingASecondTextOfTheSameLanguageIsRefusedAndKeep
     EXPECT_EQ(QRM_KIT_SUCCESS, os.AddDisplayValue("en", "Server"));
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, os.AddDisplayValue("en", "Desktop"));
     EXPECT_EQ(QRM_KIT_SUCCESS, os.AddDisplayValue("EN", "Desktop"));
-    EXPECT_EQ((std::vector<std::pair<std::string, std::string>>{{"en", "Server"}, {"EN", "Desktop"}}),
-              TextsOf(os));
+    EXPECT_EQ((std::vector<std::pair<std::string, std::string>>{{"en", "Server"}, {"EN", "Desktop"}}), TextsOf(os));
 }
 
 TEST(QRMOperatingSystemTexts, RemovingAnAbsentLanguageReturnsNotFoundAndAPresentOneSuccess)

@@ -13,9 +13,9 @@ std::string TwoOfEachCatalog()
 {
     return CatalogXML::Document(
         "baseLocation=\"downloads.example.net\" dateTime=\"1763683200\" releaseID=\"R42\" version=\"7.1\"",
-        CatalogXML::Bundle("B1") + CatalogXML::Component("C1") +
-            CatalogXML::InventoryComponent("WIN", "inv/win.exe") + CatalogXML::Bundle("B2") +
-            CatalogXML::Component("C2") + CatalogXML::InventoryComponent("LIN", "inv/lin.bin"));
+        CatalogXML::Bundle("B1") + CatalogXML::Component("C1") + CatalogXML::InventoryComponent("WIN", "inv/win.exe") +
+            CatalogXML::Bundle("B2") + CatalogXML::Component("C2") +
+            CatalogXML::InventoryComponent("LIN", "inv/lin.bin"));
 }
 
 std::vector<QRMInventoryComponent> InventoryComponents()
@@ -56,10 +56,7 @@ TEST(QRMKitAPIInstance, DeletedInstanceIsReplacedByAFreshOneWhileTheStoresStay)
     EXPECT_EQ(48u, components.size());
 }
 
-TEST(QRMKitAPIInstance, IsNotInitializedBeforeInitialize)
-{
-    EXPECT_FALSE(QRMKitAPI::Instance()->IsInitialized());
-}
+TEST(QRMKitAPIInstance, IsNotInitializedBeforeInitialize) { EXPECT_FALSE(QRMKitAPI::Instance()->IsInitialized()); }
 
 TEST(QRMKitAPIInstance, StoreIsEmptyAndNotParsedAtFirst)
 {
@@ -234,10 +231,7 @@ TEST(QRMKitAPIReset, AllowsANewInitializeAndParse)
     EXPECT_EQ(VELString("downloads.example.net"), api->GetBaseLocation());
 }
 
-TEST(QRMKitAPIBaseLocation, EmptyBeforeAnyParse)
-{
-    EXPECT_TRUE(QRMKitAPI::Instance()->GetBaseLocation().IsEmpty());
-}
+TEST(QRMKitAPIBaseLocation, EmptyBeforeAnyParse) { EXPECT_TRUE(QRMKitAPI::Instance()->GetBaseLocation().IsEmpty()); }
 
 TEST(QRMKitAPIBaseLocation, EmptyAfterInitializeWithoutParse)
 {
@@ -280,8 +274,7 @@ TEST(QRMKitAPIStore, SameComponentTwiceGivesTwoEntries)
 {
     TempDir dir;
     QRMKitAPI* api = QRMKitAPI::Instance();
-    std::string catalog = CatalogXML::Document(
-        "", CatalogXML::Component("SAME") + CatalogXML::Component("SAME"));
+    std::string catalog = CatalogXML::Document("", CatalogXML::Component("SAME") + CatalogXML::Component("SAME"));
     ASSERT_EQ(QRM_KIT_SUCCESS, api->Parse(VELFile(dir.Write("catalog.xml", catalog))));
     std::vector<QRMSoftwareComponent*> components;
     api->GetSoftwareComponents(components);
@@ -293,10 +286,9 @@ TEST(QRMKitAPIStore, SameBundleAndInventoryComponentTwiceGiveTwoEntries)
 {
     TempDir dir;
     QRMKitAPI* api = QRMKitAPI::Instance();
-    std::string catalog = CatalogXML::Document(
-        "", CatalogXML::Bundle("SAME") + CatalogXML::Bundle("SAME") +
-                CatalogXML::InventoryComponent("WIN", "a.exe") +
-                CatalogXML::InventoryComponent("WIN", "a.exe"));
+    std::string catalog = CatalogXML::Document("", CatalogXML::Bundle("SAME") + CatalogXML::Bundle("SAME") +
+                                                       CatalogXML::InventoryComponent("WIN", "a.exe") +
+                                                       CatalogXML::InventoryComponent("WIN", "a.exe"));
     ASSERT_EQ(QRM_KIT_SUCCESS, api->Parse(VELFile(dir.Write("catalog.xml", catalog))));
     EXPECT_EQ(2u, BundleCount());
     std::vector<QRMInventoryComponent> inventory = InventoryComponents();

@@ -90,11 +90,10 @@ TEST(QRMCriticality, NumericValuesAndTextsAreOneMoreThanTheValue)
 
 TEST(QRMInventoryLanguage, NumericValuesAndTexts)
 {
-    const QRMInventoryLanguageEnum values[] = {QRM_LANG_EN, QRM_LANG_FR, QRM_LANG_DE, QRM_LANG_ES,
-                                               QRM_LANG_ZH_HANS, QRM_LANG_ZH_HANT, QRM_LANG_JA,
-                                               QRM_LANG_HI, QRM_LANG_KN, QRM_LANG_TE, QRM_LANG_TA};
-    const char* const texts[] = {"en", "fr", "de", "es", "zh-Hans", "zh-Hant",
-                                 "ja", "hi", "kn", "te", "ta"};
+    const QRMInventoryLanguageEnum values[] = {QRM_LANG_EN,      QRM_LANG_FR,      QRM_LANG_DE, QRM_LANG_ES,
+                                               QRM_LANG_ZH_HANS, QRM_LANG_ZH_HANT, QRM_LANG_JA, QRM_LANG_HI,
+                                               QRM_LANG_KN,      QRM_LANG_TE,      QRM_LANG_TA};
+    const char* const texts[] = {"en", "fr", "de", "es", "zh-Hans", "zh-Hant", "ja", "hi", "kn", "te", "ta"};
     for (int i = 0; i < 11; ++i) {
         EXPECT_EQ(i, static_cast<int>(values[i]));
         EXPECT_STREQ(texts[i], QRMInventoryLanguageText(values[i]));
@@ -107,8 +106,7 @@ TEST(QRMSystemIDType, NumericValuesAndTexts)
     const QRMSystemIDTypeEnum values[] = {QRM_SYSTEMID_TYPE_BIOS, QRM_SYSTEMID_TYPE_MULTISYSTEMCHASSIS,
                                           QRM_SYSTEMID_TYPE_RAIDCHASSIS, QRM_SYSTEMID_TYPE_ROUTER,
                                           QRM_SYSTEMID_TYPE_NETWORKSWITCH};
-    const char* const texts[] = {"BIOS", "MULTISYSTEMCHASSIS", "RAIDCHASSIS", "ROUTER",
-                                 "NETWORKSWITCH"};
+    const char* const texts[] = {"BIOS", "MULTISYSTEMCHASSIS", "RAIDCHASSIS", "ROUTER", "NETWORKSWITCH"};
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(i, static_cast<int>(values[i]));
         EXPECT_STREQ(texts[i], QRMSystemIDTypeText(values[i]));
@@ -200,8 +198,7 @@ TEST(QRMCriticalityFromText, OtherDigitsLeadingZeroAndEmptyMatchNothing)
 
 TEST(QRMInventoryLanguageFromText, EveryTextGivesItsValueAndOthersNone)
 {
-    const char* const texts[] = {"en", "fr", "de", "es", "zh-Hans", "zh-Hant",
-                                 "ja", "hi", "kn", "te", "ta"};
+    const char* const texts[] = {"en", "fr", "de", "es", "zh-Hans", "zh-Hant", "ja", "hi", "kn", "te", "ta"};
     for (int i = 0; i < 11; ++i) {
         QRMInventoryLanguageEnum value = static_cast<QRMInventoryLanguageEnum>(99);
         EXPECT_TRUE(QRMInventoryLanguageFromText(VELString(texts[i]), value)) << texts[i];
@@ -217,8 +214,7 @@ TEST(QRMInventoryLanguageFromText, EveryTextGivesItsValueAndOthersNone)
 
 TEST(QRMSystemIDTypeFromText, EveryTextGivesItsValueAndOthersNone)
 {
-    const char* const texts[] = {"BIOS", "MULTISYSTEMCHASSIS", "RAIDCHASSIS", "ROUTER",
-                                 "NETWORKSWITCH"};
+    const char* const texts[] = {"BIOS", "MULTISYSTEMCHASSIS", "RAIDCHASSIS", "ROUTER", "NETWORKSWITCH"};
     for (int i = 0; i < 5; ++i) {
         QRMSystemIDTypeEnum value = static_cast<QRMSystemIDTypeEnum>(99);
         EXPECT_TRUE(QRMSystemIDTypeFromText(VELString(texts[i]), value)) << texts[i];

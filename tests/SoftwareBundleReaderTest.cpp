@@ -59,8 +59,8 @@ const std::string kContents = "<Contents/>";
 
 std::string BundleXML(const std::string& attributes, const std::string& children)
 {
-    return "<SoftwareBundle" + (attributes.empty() ? std::string() : " " + attributes) + ">" +
-           children + "</SoftwareBundle>";
+    return "<SoftwareBundle" + (attributes.empty() ? std::string() : " " + attributes) + ">" + children +
+           "</SoftwareBundle>";
 }
 
 // A bundle with the three required children and `extra` between the
@@ -124,8 +124,7 @@ QRMKitReturnCode ParseAroundMiddle(const TempDir& dir, const std::string& middle
 void ExpectAbortAfterFirstBundle(const std::string& leaveOut, const std::string& twice)
 {
     TempDir dir;
-    EXPECT_EQ(QRM_KIT_ELEMENT_MISSING,
-              ParseAroundMiddle(dir, CatalogXML::Bundle("B2", leaveOut, twice)));
+    EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, ParseAroundMiddle(dir, CatalogXML::Bundle("B2", leaveOut, twice)));
     EXPECT_EQ(std::vector<std::string>{"B1"}, BundleIDs());
     EXPECT_FALSE(API()->IsCatalogParsed());
 }
@@ -197,10 +196,9 @@ TEST(SoftwareBundleReader, BrandKeyPrefixAndTextsAndModelTextsAreRead)
 {
     TempDir dir;
     QRMSoftwareBundle bundle;
-    std::string systems =
-        "<TargetSystems><Brand key=\"1234\" prefix=\"PE\"><Display lang=\"en\">Servers</Display>"
-        "<Model systemID=\"0A1F\"><Display lang=\"en\">Model 740</Display></Model></Brand>"
-        "</TargetSystems>";
+    std::string systems = "<TargetSystems><Brand key=\"1234\" prefix=\"PE\"><Display lang=\"en\">Servers</Display>"
+                          "<Model systemID=\"0A1F\"><Display lang=\"en\">Model 740</Display></Model></Brand>"
+                          "</TargetSystems>";
     ASSERT_TRUE(ParseSingleBundle(dir, BundleWith(systems), bundle));
     QRMSupportedSystems targets = bundle.GetTargetSystems();
     std::vector<QRMBrand*> brands = BrandsOf(targets);
@@ -245,9 +243,8 @@ TEST(SoftwareBundleReader, TwoBrandsInTargetSystemsLeaveNoBrand)
 {
     TempDir dir;
     QRMSoftwareBundle bundle;
-    std::string systems =
-        "<TargetSystems><Brand key=\"3\" prefix=\"PE\"><Model systemID=\"04A3\"/></Brand>"
-        "<Brand key=\"4\" prefix=\"PX\"><Model systemID=\"0500\"/></Brand></TargetSystems>";
+    std::string systems = "<TargetSystems><Brand key=\"3\" prefix=\"PE\"><Model systemID=\"04A3\"/></Brand>"
+                          "<Brand key=\"4\" prefix=\"PX\"><Model systemID=\"0500\"/></Brand></TargetSystems>";
     ASSERT_TRUE(ParseSingleBundle(dir, BundleWith(systems), bundle));
     EXPECT_TRUE(BrandsOf(bundle.GetTargetSystems()).empty());
     EXPECT_TRUE(SystemIDsOf(bundle).empty());
@@ -257,9 +254,8 @@ TEST(SoftwareBundleReader, TwoModelsInABrandLeaveTheBrandWithoutModel)
 {
     TempDir dir;
     QRMSoftwareBundle bundle;
-    std::string systems =
-        "<TargetSystems><Brand key=\"3\" prefix=\"PE\"><Model systemID=\"04A3\"/>"
-        "<Model systemID=\"04A4\"/></Brand></TargetSystems>";
+    std::string systems = "<TargetSystems><Brand key=\"3\" prefix=\"PE\"><Model systemID=\"04A3\"/>"
+                          "<Model systemID=\"04A4\"/></Brand></TargetSystems>";
     ASSERT_TRUE(ParseSingleBundle(dir, BundleWith(systems), bundle));
     QRMSupportedSystems targets = bundle.GetTargetSystems();
     std::vector<QRMBrand*> brands = BrandsOf(targets);
@@ -315,9 +311,8 @@ TEST(SoftwareBundleReader, ComponentTypeTextsMapToTheirCodes)
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
     std::vector<QRMSoftwareBundle*> bundles = StoredBundles();
     ASSERT_EQ(6u, bundles.size());
-    const QRMComponentTypeValueEnum expected[] = {QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW,
-                                                  QRM_COMPONENT_BIOS, QRM_COMPONENT_APAC,
-                                                  QRM_COMPONENT_APP,  QRM_COMPONENT_DRVR};
+    const QRMComponentTypeValueEnum expected[] = {QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW, QRM_COMPONENT_BIOS,
+                                                  QRM_COMPONENT_APAC, QRM_COMPONENT_APP,  QRM_COMPONENT_DRVR};
     for (std::size_t i = 0; i < 6; ++i) {
         EXPECT_EQ(texts[i], S(bundles[i]->GetBundleID()));
         EXPECT_EQ(expected[i], bundles[i]->GetComponentType().GetValue()) << texts[i];
@@ -365,9 +360,8 @@ TEST(SoftwareBundleReader, TargetOperatingSystemCodeVendorAndTextsAreRead)
 {
     TempDir dir;
     QRMSoftwareBundle bundle;
-    std::string oses =
-        "<TargetOSes><OperatingSystem osCode=\"W12\" osVendor=\"ExampleSoft\">"
-        "<Display lang=\"en\">Server OS 12</Display></OperatingSystem></TargetOSes>";
+    std::string oses = "<TargetOSes><OperatingSystem osCode=\"W12\" osVendor=\"ExampleSoft\">"
+                       "<Display lang=\"en\">Server OS 12</Display></OperatingSystem></TargetOSes>";
     ASSERT_TRUE(ParseSingleBundle(dir, BundleWith(oses), bundle));
     std::vector<QRMOperatingSystem> list = OSesOf(bundle.GetTargetOSes());
     ASSERT_EQ(1u, list.size());
@@ -464,8 +458,8 @@ TEST(SoftwareBundleReader, ContentsEntriesNestedDeeperAreNotRead)
 {
     TempDir dir;
     QRMSoftwareBundle bundle;
-    std::string children = kName + kType +
-                           "<Contents><Group path=\"g.exe\"><Package path=\"inner.exe\"/></Group></Contents>";
+    std::string children =
+        kName + kType + "<Contents><Group path=\"g.exe\"><Package path=\"inner.exe\"/></Group></Contents>";
     ASSERT_TRUE(ParseSingleBundle(dir, BundleXML("", children), bundle));
     std::vector<QRMBundleContent> contents = ContentsOf(bundle);
     ASSERT_EQ(1u, contents.size());
@@ -478,9 +472,8 @@ TEST(SoftwareBundleReader, BundleAttributesAreRead)
 {
     TempDir dir;
     QRMSoftwareBundle bundle;
-    std::string attributes =
-        "schemaVersion=\"2.1\" releaseID=\"R7XK2\" dateTime=\"1700000000\" vendorVersion=\"A09\" "
-        "path=\"FOLDER01/bundle.xml\" bundleID=\"BID-42\" bundleType=\"BTLX\"";
+    std::string attributes = "schemaVersion=\"2.1\" releaseID=\"R7XK2\" dateTime=\"1700000000\" vendorVersion=\"A09\" "
+                             "path=\"FOLDER01/bundle.xml\" bundleID=\"BID-42\" bundleType=\"BTLX\"";
     ASSERT_TRUE(ParseSingleBundle(dir, BundleWith("", attributes), bundle));
     EXPECT_EQ("2.1", S(bundle.GetSchemaVersion()));
     EXPECT_EQ("R7XK2", S(bundle.GetReleaseID()));
@@ -576,20 +569,11 @@ TEST(SoftwareBundleReaderFaults, MissingComponentTypeAbortsTheCatalog)
     ExpectAbortAfterFirstBundle("ComponentType", "");
 }
 
-TEST(SoftwareBundleReaderFaults, TwoComponentTypesAbortTheCatalog)
-{
-    ExpectAbortAfterFirstBundle("", "ComponentType");
-}
+TEST(SoftwareBundleReaderFaults, TwoComponentTypesAbortTheCatalog) { ExpectAbortAfterFirstBundle("", "ComponentType"); }
 
-TEST(SoftwareBundleReaderFaults, MissingContentsAbortsTheCatalog)
-{
-    ExpectAbortAfterFirstBundle("Contents", "");
-}
+TEST(SoftwareBundleReaderFaults, MissingContentsAbortsTheCatalog) { ExpectAbortAfterFirstBundle("Contents", ""); }
 
-TEST(SoftwareBundleReaderFaults, TwoContentsAbortTheCatalog)
-{
-    ExpectAbortAfterFirstBundle("", "Contents");
-}
+TEST(SoftwareBundleReaderFaults, TwoContentsAbortTheCatalog) { ExpectAbortAfterFirstBundle("", "Contents"); }
 
 TEST(SoftwareBundleReaderFaults, AbortLeavesLaterComponentsAndInventoryComponentsUnread)
 {
@@ -614,10 +598,9 @@ TEST(SoftwareBundleReaderFaults, NameWithoutDisplaySkipsOnlyThatBundle)
 
 TEST(SoftwareBundleReaderFaults, NameWithTwoDisplaysSkipsOnlyThatBundle)
 {
-    ExpectMiddleBundleSkipped(BundleXML(
-        "bundleID=\"B2\"",
-        "<Name><Display lang=\"en\">A</Display><Display lang=\"de\">B</Display></Name>" + kType +
-            kContents));
+    ExpectMiddleBundleSkipped(
+        BundleXML("bundleID=\"B2\"",
+                  "<Name><Display lang=\"en\">A</Display><Display lang=\"de\">B</Display></Name>" + kType + kContents));
 }
 
 TEST(SoftwareBundleReaderFaults, DescriptionWithoutDisplaySkipsOnlyThatBundle)
@@ -627,9 +610,9 @@ TEST(SoftwareBundleReaderFaults, DescriptionWithoutDisplaySkipsOnlyThatBundle)
 
 TEST(SoftwareBundleReaderFaults, DescriptionWithTwoDisplaysSkipsOnlyThatBundle)
 {
-    ExpectMiddleBundleSkipped(BundleWith(
-        "<Description><Display lang=\"en\">A</Display><Display lang=\"de\">B</Display></Description>",
-        "bundleID=\"B2\""));
+    ExpectMiddleBundleSkipped(
+        BundleWith("<Description><Display lang=\"en\">A</Display><Display lang=\"de\">B</Display></Description>",
+                   "bundleID=\"B2\""));
 }
 
 TEST(SoftwareBundleReaderFaults, NameWithoutDisplayIsCheckedBeforeMissingContents)
@@ -642,8 +625,7 @@ TEST(SoftwareBundleReaderFaults, MissingContentsIsReportedEvenAfterAnEmptyNameDi
 {
     // A Display without "lang" is no fault: the Name reads with an empty language.
     TempDir dir;
-    std::string bundle =
-        BundleXML("bundleID=\"B2\"", "<Name><Display>Nameless</Display></Name>" + kType);
+    std::string bundle = BundleXML("bundleID=\"B2\"", "<Name><Display>Nameless</Display></Name>" + kType);
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, ParseAroundMiddle(dir, bundle));
     EXPECT_EQ(std::vector<std::string>{"B1"}, BundleIDs());
 }

@@ -64,8 +64,8 @@ const std::string kDevices = "<SupportedDevices/>";
 
 std::string ComponentXML(const std::string& attributes, const std::string& children)
 {
-    return "<SoftwareComponent" + (attributes.empty() ? std::string() : " " + attributes) + ">" +
-           children + "</SoftwareComponent>";
+    return "<SoftwareComponent" + (attributes.empty() ? std::string() : " " + attributes) + ">" + children +
+           "</SoftwareComponent>";
 }
 
 // A component with the four required children, `extra` after them.
@@ -77,8 +77,7 @@ std::string ComponentWith(const std::string& extra, const std::string& attribute
 // A component whose devices are `devices` (the children of SupportedDevices).
 std::string ComponentWithDevices(const std::string& devices)
 {
-    return ComponentXML("", kName + kType + kCategory + "<SupportedDevices>" + devices +
-                                "</SupportedDevices>");
+    return ComponentXML("", kName + kType + kCategory + "<SupportedDevices>" + devices + "</SupportedDevices>");
 }
 
 // A component whose category element is `category`.
@@ -88,8 +87,7 @@ std::string ComponentWithCategory(const std::string& category, const std::string
 }
 
 // Parses a catalog holding only `componentXML`, which must be read whole.
-bool ParseSingleComponent(const TempDir& dir, const std::string& componentXML,
-                          QRMSoftwareComponent& out)
+bool ParseSingleComponent(const TempDir& dir, const std::string& componentXML, QRMSoftwareComponent& out)
 {
     QRMKitReturnCode result = ParseEntries(dir, componentXML);
     if (result != QRM_KIT_SUCCESS) {
@@ -143,8 +141,8 @@ std::vector<QRMOperatingSystem> OSesOf(const QRMSupportedOperatingSystems& oses)
 void ExpectAbortAfterFirstComponent(const std::string& leaveOut, const std::string& twice)
 {
     TempDir dir;
-    std::string entries = CatalogXML::Component("C1") + CatalogXML::Component("C2", leaveOut, twice) +
-                          CatalogXML::Component("C3");
+    std::string entries =
+        CatalogXML::Component("C1") + CatalogXML::Component("C2", leaveOut, twice) + CatalogXML::Component("C3");
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, ParseEntries(dir, entries));
     EXPECT_EQ(std::vector<std::string>{"C1"}, PackageIDs());
     EXPECT_FALSE(API()->IsCatalogParsed());
@@ -200,15 +198,9 @@ TEST(SoftwareComponentReaderFaults, TwoSupportedDevicesAbortTheCatalog)
     ExpectAbortAfterFirstComponent("", "SupportedDevices");
 }
 
-TEST(SoftwareComponentReaderFaults, MissingCategoryAbortsTheCatalog)
-{
-    ExpectAbortAfterFirstComponent("Category", "");
-}
+TEST(SoftwareComponentReaderFaults, MissingCategoryAbortsTheCatalog) { ExpectAbortAfterFirstComponent("Category", ""); }
 
-TEST(SoftwareComponentReaderFaults, TwoCategoriesAbortTheCatalog)
-{
-    ExpectAbortAfterFirstComponent("", "Category");
-}
+TEST(SoftwareComponentReaderFaults, TwoCategoriesAbortTheCatalog) { ExpectAbortAfterFirstComponent("", "Category"); }
 
 TEST(SoftwareComponentReaderFaults, MissingNameAbortsTheCatalog) { ExpectAbortAfterFirstComponent("Name", ""); }
 
@@ -227,8 +219,7 @@ TEST(SoftwareComponentReaderFaults, TwoComponentTypesAbortTheCatalog)
 TEST(SoftwareComponentReaderFaults, AbortKeepsEarlierBundlesAndLeavesLaterOnesUnread)
 {
     TempDir dir;
-    std::string entries = CatalogXML::Bundle("B1") + CatalogXML::Component("C2", "Category") +
-                          CatalogXML::Bundle("B3");
+    std::string entries = CatalogXML::Bundle("B1") + CatalogXML::Component("C2", "Category") + CatalogXML::Bundle("B3");
     EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, ParseEntries(dir, entries));
     std::vector<QRMSoftwareBundle*> bundles;
     API()->GetSoftwareBundles(bundles);
@@ -254,9 +245,9 @@ TEST(SoftwareComponentReaderFaults, DescriptionWithoutDisplaySkipsOnlyThatCompon
 
 TEST(SoftwareComponentReaderFaults, DescriptionWithTwoDisplaysSkipsOnlyThatComponent)
 {
-    ExpectMiddleComponentSkipped(ComponentWith(
-        "<Description><Display lang=\"en\">A</Display><Display lang=\"de\">B</Display></Description>",
-        "packageID=\"C2\""));
+    ExpectMiddleComponentSkipped(
+        ComponentWith("<Description><Display lang=\"en\">A</Display><Display lang=\"de\">B</Display></Description>",
+                      "packageID=\"C2\""));
 }
 
 TEST(SoftwareComponentReader, DescriptionDisplayGoesToTheDescriptionTexts)
@@ -285,10 +276,9 @@ TEST(SoftwareComponentReader, DeviceWithTwoPCIInfoGetsBothReadAsHexadecimal)
 {
     TempDir dir;
     QRMSoftwareComponent component;
-    std::string devices =
-        "<Device componentID=\"159\" embedded=\"1\">"
-        "<PCIInfo deviceID=\"0A6B\" vendorID=\"8086\" subDeviceID=\"04A3\" subVendorID=\"1028\"/>"
-        "<PCIInfo deviceID=\"10\" vendorID=\"ff\" subDeviceID=\"0\" subVendorID=\"FFFF\"/></Device>";
+    std::string devices = "<Device componentID=\"159\" embedded=\"1\">"
+                          "<PCIInfo deviceID=\"0A6B\" vendorID=\"8086\" subDeviceID=\"04A3\" subVendorID=\"1028\"/>"
+                          "<PCIInfo deviceID=\"10\" vendorID=\"ff\" subDeviceID=\"0\" subVendorID=\"FFFF\"/></Device>";
     ASSERT_TRUE(ParseSingleComponent(dir, ComponentWithDevices(devices), component));
     std::vector<QRMDevice*> list = DevicesOf(component);
     ASSERT_EQ(1u, list.size());
@@ -490,9 +480,8 @@ TEST(SoftwareComponentReader, ComponentTypeTextsMapToTheirCodes)
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
     std::vector<QRMSoftwareComponent*> components = StoredComponents();
     ASSERT_EQ(6u, components.size());
-    const QRMComponentTypeValueEnum expected[] = {QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW,
-                                                  QRM_COMPONENT_BIOS, QRM_COMPONENT_APAC,
-                                                  QRM_COMPONENT_APP,  QRM_COMPONENT_DRVR};
+    const QRMComponentTypeValueEnum expected[] = {QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW, QRM_COMPONENT_BIOS,
+                                                  QRM_COMPONENT_APAC, QRM_COMPONENT_APP,  QRM_COMPONENT_DRVR};
     for (std::size_t i = 0; i < 6; ++i) {
         EXPECT_EQ(texts[i], S(components[i]->GetPackageID()));
         EXPECT_EQ(expected[i], components[i]->GetComponentType().GetValue()) << texts[i];
@@ -533,7 +522,8 @@ TEST(SoftwareComponentReader, CategoryCodeAndTextFromCDATA)
 {
     TempDir dir;
     QRMSoftwareComponent component;
-    std::string category = "<Category value=\"BI\"><Display lang=\"en\"><![CDATA[BIOS & Firmware]]></Display></Category>";
+    std::string category =
+        "<Category value=\"BI\"><Display lang=\"en\"><![CDATA[BIOS & Firmware]]></Display></Category>";
     ASSERT_TRUE(ParseSingleComponent(dir, ComponentWithCategory(category, "P"), component));
     EXPECT_EQ("BI", S(component.GetCategory().GetCode()));
     EXPECT_EQ(std::vector<std::string>{"en|BIOS & Firmware"}, Texts(component.GetCategory()));
@@ -638,8 +628,7 @@ TEST(SoftwareComponentReader, SupportedSystemsDisplayFlagIsFalseForZeroEmptyOrMi
 {
     TempDir dir;
     std::string entries = ComponentWith("<SupportedSystems display=\"0\"/>") +
-                          ComponentWith("<SupportedSystems display=\"\"/>") +
-                          ComponentWith("<SupportedSystems/>") +
+                          ComponentWith("<SupportedSystems display=\"\"/>") + ComponentWith("<SupportedSystems/>") +
                           ComponentWith("<SupportedSystems display=\"2\"/>");
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseEntries(dir, entries));
     std::vector<QRMSoftwareComponent*> components = StoredComponents();

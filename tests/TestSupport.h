@@ -113,12 +113,10 @@ void ExpectExampleUpdates();
 namespace CatalogXML {
 
 // A "SoftwareBundle" with "Name", "ComponentType" and "Contents".
-std::string Bundle(const std::string& bundleID, const std::string& leaveOut = "",
-                   const std::string& twice = "");
+std::string Bundle(const std::string& bundleID, const std::string& leaveOut = "", const std::string& twice = "");
 // A "SoftwareComponent" with "Name", "ComponentType", "Category" and
 // "SupportedDevices".
-std::string Component(const std::string& packageID, const std::string& leaveOut = "",
-                      const std::string& twice = "");
+std::string Component(const std::string& packageID, const std::string& leaveOut = "", const std::string& twice = "");
 // An "InventoryComponent" with "osCode" and "path".
 std::string InventoryComponent(const std::string& osCode, const std::string& path);
 // A whole catalog: an XML declaration, then the root element with the given

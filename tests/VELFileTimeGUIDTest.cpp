@@ -85,10 +85,7 @@ TEST(VELFile, PathWithEmbeddedNulDoesNotExist)
     EXPECT_FALSE(VELFile(VELString(units)).Exists());
 }
 
-TEST(VELTime, DefaultIsZero)
-{
-    EXPECT_EQ(0ull, VELTime().GetValue());
-}
+TEST(VELTime, DefaultIsZero) { EXPECT_EQ(0ull, VELTime().GetValue()); }
 
 TEST(VELTime, KeepsTheFullSixtyFourBitValue)
 {

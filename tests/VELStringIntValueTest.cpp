@@ -41,18 +41,98 @@ void ExpectSameAsStream(const std::string& text)
 std::vector<std::string> HandPickedTexts()
 {
     return {
-        "", " ", "\t", "\n", " \t\n ", "0", "00", "000000000000000000000000001",
-        "1", "9", "10", "255", "ff", "FF", "fF", "g", "G", "x", "X", "0x", "0X", "0x0",
-        "0x1F", "0X1f", "0xg", "0x 1", "00x1F", "0xx1", "x1F", "-0x1F", "+0x1F", "+0", "-0",
-        "+", "-", "+-1", "-+1", "--1", "++1", " -1", "-1", "-2", "-4294967295", "-4294967296",
-        "-99999999999", "4294967295", "4294967296", "4294967297", "42949672950",
-        "99999999999999999999999999", "000004294967295", "000004294967296", "ffffffff",
-        "FFFFFFFF", "100000000", "0xffffffff", "0x100000000", "-0xffffffff", "-ffffffff",
-        "12abc", "12.5", ".5", "1e5", "0.0", "1 2", " 12", "\t\n12", "12 ", "0 x1F",
-        "abc", "ABC", "a.b", "deadbeef", "DEADBEEF", "-deadbeef", "0xdeadbeef1",
-        "1-", "1+", "0-1", "0+1", "0x-1", "0x+1", "-0x", "+0x", "-0", "-00", "-0g",
-        "0000000000000000000000000000000000000000", "0x0000000000000000000000000001",
-        "18446744073709551615", "18446744073709551616", "-18446744073709551615",
+        "",
+        " ",
+        "\t",
+        "\n",
+        " \t\n ",
+        "0",
+        "00",
+        "000000000000000000000000001",
+        "1",
+        "9",
+        "10",
+        "255",
+        "ff",
+        "FF",
+        "fF",
+        "g",
+        "G",
+        "x",
+        "X",
+        "0x",
+        "0X",
+        "0x0",
+        "0x1F",
+        "0X1f",
+        "0xg",
+        "0x 1",
+        "00x1F",
+        "0xx1",
+        "x1F",
+        "-0x1F",
+        "+0x1F",
+        "+0",
+        "-0",
+        "+",
+        "-",
+        "+-1",
+        "-+1",
+        "--1",
+        "++1",
+        " -1",
+        "-1",
+        "-2",
+        "-4294967295",
+        "-4294967296",
+        "-99999999999",
+        "4294967295",
+        "4294967296",
+        "4294967297",
+        "42949672950",
+        "99999999999999999999999999",
+        "000004294967295",
+        "000004294967296",
+        "ffffffff",
+        "FFFFFFFF",
+        "100000000",
+        "0xffffffff",
+        "0x100000000",
+        "-0xffffffff",
+        "-ffffffff",
+        "12abc",
+        "12.5",
+        ".5",
+        "1e5",
+        "0.0",
+        "1 2",
+        " 12",
+        "\t\n12",
+        "12 ",
+        "0 x1F",
+        "abc",
+        "ABC",
+        "a.b",
+        "deadbeef",
+        "DEADBEEF",
+        "-deadbeef",
+        "0xdeadbeef1",
+        "1-",
+        "1+",
+        "0-1",
+        "0+1",
+        "0x-1",
+        "0x+1",
+        "-0x",
+        "+0x",
+        "-0",
+        "-00",
+        "-0g",
+        "0000000000000000000000000000000000000000",
+        "0x0000000000000000000000000001",
+        "18446744073709551615",
+        "18446744073709551616",
+        "-18446744073709551615",
     };
 }
 
@@ -118,8 +198,12 @@ TEST(VELStringIntValue, LeadingWhiteSpaceIsSkipped)
 
 TEST(VELStringIntValue, NonASCIITextNeverThrows)
 {
-    EXPECT_NO_THROW(VELString("\xC3\xA9" "12").GetIntValue(std::dec));
-    EXPECT_EQ(0u, VELString("\xC3\xA9" "12").GetIntValue(std::dec));
+    EXPECT_NO_THROW(VELString("\xC3\xA9"
+                              "12")
+                        .GetIntValue(std::dec));
+    EXPECT_EQ(0u, VELString("\xC3\xA9"
+                            "12")
+                      .GetIntValue(std::dec));
     EXPECT_EQ(12u, VELString("12\xC3\xA9").GetIntValue(std::dec));
 }
 
@@ -192,7 +276,7 @@ TEST(VELStringIntValue, RandomTextsMatchStreamExtraction)
         default: {
             // Numbers around the 32-bit limit.
             static const char* const limits[] = {"4294967295", "4294967296", "ffffffff",
-                                                 "100000000", "429496729", "FFFFFFFF0"};
+                                                 "100000000",  "429496729",  "FFFFFFFF0"};
             text = prefixes[prefixIndex(random)];
             text += limits[random() % 6];
             if (random() % 2 == 0) {

@@ -335,8 +335,7 @@ TEST(VELStringStorage, MapKeysOfMixedLengthsComeInCodeUnitOrder)
     for (const auto& entry : map) {
         order.push_back(entry.first.GetUTF8String());
     }
-    EXPECT_EQ((std::vector<std::string>{"", "abc", "abcdefff", "abcdefg", "abcdefgh", "abcdefgha", "abd", "b"}),
-              order);
+    EXPECT_EQ((std::vector<std::string>{"", "abc", "abcdefff", "abcdefg", "abcdefgh", "abcdefgha", "abd", "b"}), order);
     EXPECT_EQ(0, map[VELString("abcdefgh")]);
     EXPECT_EQ(5, map[VELString("abcdefgha")]);
 }

@@ -61,14 +61,16 @@ TEST(VELStringConstruction, NullPointerGivesEmptyText)
 TEST(VELStringConstruction, FromUTF8DecodesNonASCIIIntoCodeUnits)
 {
     // "Grüße €" : two-byte and three-byte sequences, one code unit each.
-    VELString text("Gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC");
+    VELString text("Gr\xC3\xBC\xC3\x9F"
+                   "e \xE2\x82\xAC");
     EXPECT_EQ(7u, text.GetLength());
     EXPECT_EQ(u"Gr\u00FC\u00DFe \u20AC", text.GetUTF16String());
 }
 
 TEST(VELStringConstruction, InvalidByteBecomesReplacementCharacter)
 {
-    VELString text("a\xFF" "b");
+    VELString text("a\xFF"
+                   "b");
     EXPECT_EQ(u"a\uFFFDb", text.GetUTF16String());
 }
 
@@ -134,15 +136,20 @@ TEST(VELStringUTF8, RoundTripKeepsSupplementaryCharacters)
 
 TEST(VELStringUTF8, FromUTF8WithLengthReadsExactlyThatManyBytes)
 {
-    const char bytes[] = "abc\xC3\xA9" "def";
+    const char bytes[] = "abc\xC3\xA9"
+                         "def";
     VELString text = VELString::FromUTF8(bytes, 5);
     EXPECT_EQ(u"abc\u00E9", text.GetUTF16String());
 }
 
 TEST(VELStringUTF8, UnpairedSurrogatesBecomeReplacementCharacters)
 {
-    EXPECT_EQ("a\xEF\xBF\xBD" "b", VELString(std::u16string{u'a', 0xD800, u'b'}).GetUTF8String());
-    EXPECT_EQ("a\xEF\xBF\xBD" "b", VELString(std::u16string{u'a', 0xDC00, u'b'}).GetUTF8String());
+    EXPECT_EQ("a\xEF\xBF\xBD"
+              "b",
+              VELString(std::u16string{u'a', 0xD800, u'b'}).GetUTF8String());
+    EXPECT_EQ("a\xEF\xBF\xBD"
+              "b",
+              VELString(std::u16string{u'a', 0xDC00, u'b'}).GetUTF8String());
     EXPECT_EQ("a\xEF\xBF\xBD", VELString(std::u16string{u'a', 0xDBFF}).GetUTF8String());
     // A low surrogate before a high one is no pair: both are replaced.
     EXPECT_EQ("\xEF\xBF\xBD\xEF\xBF\xBD", VELString(std::u16string{0xDC00, 0xD800}).GetUTF8String());
@@ -326,10 +333,7 @@ TEST(VELStringContainsOnlyAlphabets, TrueForLettersOfBothCases)
     EXPECT_TRUE(VELString("a").ContainsOnlyAlphabets());
 }
 
-TEST(VELStringContainsOnlyAlphabets, FalseForEmptyText)
-{
-    EXPECT_FALSE(VELString().ContainsOnlyAlphabets());
-}
+TEST(VELStringContainsOnlyAlphabets, FalseForEmptyText) { EXPECT_FALSE(VELString().ContainsOnlyAlphabets()); }
 
 TEST(VELStringContainsOnlyAlphabets, FalseWithADigitBlankOrOtherCharacter)
 {
@@ -375,8 +379,7 @@ TEST(VELStringCombinations, PairsComeInPositionOrderFirstPositionSlowest)
     char buffer[3] = {};
     std::vector<VELString> out;
     text.ListCombinationsOfString(buffer, 0, text.GetLength() - 1, 0, 2, out);
-    std::vector<std::string> expected = {"NT", "NW", "NR", "NK", "TW",
-                                         "TR", "TK", "WR", "WK", "RK"};
+    std::vector<std::string> expected = {"NT", "NW", "NR", "NK", "TW", "TR", "TK", "WR", "WK", "RK"};
     EXPECT_EQ(expected, UTF8Of(out));
 }
 
@@ -386,8 +389,7 @@ TEST(VELStringCombinations, TriplesComeInPositionOrder)
     char buffer[4] = {};
     std::vector<VELString> out;
     text.ListCombinationsOfString(buffer, 0, text.GetLength() - 1, 0, 3, out);
-    std::vector<std::string> expected = {"NTW", "NTR", "NTK", "NWR", "NWK",
-                                         "NRK", "TWR", "TWK", "TRK", "WRK"};
+    std::vector<std::string> expected = {"NTW", "NTR", "NTK", "NWR", "NWK", "NRK", "TWR", "TWK", "TRK", "WRK"};
     EXPECT_EQ(expected, UTF8Of(out));
 }
 

@@ -115,8 +115,7 @@ TEST(VELDOMParser, EmptyFileGivesError)
 TEST(VELDOMParser, DocumentWithoutAnElementGivesError)
 {
     TempDir dir;
-    ParseOutcome outcome =
-        ParseFile(dir.Write("noroot.xml", "<?xml version=\"1.0\"?>\n<!-- nothing here -->\n"));
+    ParseOutcome outcome = ParseFile(dir.Write("noroot.xml", "<?xml version=\"1.0\"?>\n<!-- nothing here -->\n"));
     EXPECT_NE(0, outcome.errorCode);
     EXPECT_EQ(nullptr, outcome.document);
 }
@@ -151,8 +150,8 @@ TEST(VELXMLNode, GetChildrenListsElementChildrenOnlyInDocumentOrder)
 {
     TempDir dir;
     ParseOutcome holder;
-    VELXMLNode* root = RootOf(
-        dir, "<r>text<a/><!-- comment --><b><inner/></b><![CDATA[data]]><?pi x?><c/>tail</r>", holder);
+    VELXMLNode* root =
+        RootOf(dir, "<r>text<a/><!-- comment --><b><inner/></b><![CDATA[data]]><?pi x?><c/>tail</r>", holder);
     ASSERT_NE(nullptr, root);
     std::vector<VELXMLNode*> children;
     EXPECT_EQ(VEL_SUCCESS, root->GetChildren(children));
@@ -177,8 +176,7 @@ TEST(VELXMLNode, GetChildrenByNameIsExactAndCaseSensitive)
     TempDir dir;
     ParseOutcome holder;
     VELXMLNode* root = RootOf(
-        dir,
-        "<r><Item n=\"1\"/><item n=\"2\"/><ItemX n=\"3\"/><Item n=\"4\"><Item n=\"5\"/></Item><Ite n=\"6\"/></r>",
+        dir, "<r><Item n=\"1\"/><item n=\"2\"/><ItemX n=\"3\"/><Item n=\"4\"><Item n=\"5\"/></Item><Ite n=\"6\"/></r>",
         holder);
     ASSERT_NE(nullptr, root);
     std::vector<VELXMLNode*> items;
@@ -288,10 +286,8 @@ TEST(VELXMLNode, GetValueOfTextAndCDATA)
 {
     TempDir dir;
     ParseOutcome holder;
-    VELXMLNode* root = RootOf(
-        dir,
-        "<r><t>Dell &amp; Co</t><c><![CDATA[<raw> & text]]></c><e/><n><x/>after</n></r>",
-        holder);
+    VELXMLNode* root =
+        RootOf(dir, "<r><t>Dell &amp; Co</t><c><![CDATA[<raw> & text]]></c><e/><n><x/>after</n></r>", holder);
     ASSERT_NE(nullptr, root);
     VELXMLNode* t = OnlyChild(*root, "t");
     VELXMLNode* c = OnlyChild(*root, "c");
@@ -353,12 +349,14 @@ TEST(VELXMLNode, FirstChildNodeNameWithoutChildrenIsEmpty)
 
 namespace {
 
-const char* const kEncodedDocument =
-    "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n"
-    "<Wurzel art=\"caf\xC3\xA9\">"
-    "<Gr\xC3\xB6\xC3\x9F" "e wert=\"\xE2\x82\xAC 5\">Gr\xC3\xBC\xC3\x9F" "e \xF0\x9F\x98\x80</Gr\xC3\xB6\xC3\x9F" "e>"
-    "<Plain>ascii</Plain>"
-    "</Wurzel>";
+const char* const kEncodedDocument = "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n"
+                                     "<Wurzel art=\"caf\xC3\xA9\">"
+                                     "<Gr\xC3\xB6\xC3\x9F"
+                                     "e wert=\"\xE2\x82\xAC 5\">Gr\xC3\xBC\xC3\x9F"
+                                     "e \xF0\x9F\x98\x80</Gr\xC3\xB6\xC3\x9F"
+                                     "e>"
+                                     "<Plain>ascii</Plain>"
+                                     "</Wurzel>";
 
 void ExpectEncodedDocumentContents(const VELXMLNode& root)
 {
@@ -445,10 +443,12 @@ TEST(VELDOMParserEntities, ExternalEntityIsNeverRead)
     VELXMLNode* root = RootOf(dir,
                               "<?xml version=\"1.0\"?>\n"
                               "<!DOCTYPE r [\n"
-                              "  <!ENTITY local SYSTEM \"file://" + secret + "\">\n"
-                              "  <!ENTITY passwd SYSTEM \"file:///etc/passwd\">\n"
-                              "]>\n"
-                              "<r><t>[&local;]</t><u>[&passwd;]</u></r>",
+                              "  <!ENTITY local SYSTEM \"file://" +
+                                  secret +
+                                  "\">\n"
+                                  "  <!ENTITY passwd SYSTEM \"file:///etc/passwd\">\n"
+                                  "]>\n"
+                                  "<r><t>[&local;]</t><u>[&passwd;]</u></r>",
                               holder);
     ASSERT_NE(nullptr, root);
     VELXMLNode* t = OnlyChild(*root, "t");

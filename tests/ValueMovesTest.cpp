@@ -31,8 +31,7 @@ T& Same(T& value)
 // A text long enough to be held on the heap.
 VELString Long(const std::string& stem) { return VELString((stem + " that is held on the heap").c_str()); }
 
-QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID,
-                   unsigned int subDeviceID)
+QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID, unsigned int subDeviceID)
 {
     QRMPCIInfo pci;
     pci.SetVendorID(vendorID);
@@ -55,8 +54,7 @@ void ExpectNthPCI(const QRMPCIInfo& pci, unsigned int i)
 
 bool IsZeroPCI(const QRMPCIInfo& pci)
 {
-    return pci.GetVendorID() == 0 && pci.GetDeviceID() == 0 && pci.GetSubVendorID() == 0 &&
-           pci.GetSubDeviceID() == 0;
+    return pci.GetVendorID() == 0 && pci.GetDeviceID() == 0 && pci.GetSubVendorID() == 0 && pci.GetSubDeviceID() == 0;
 }
 
 QRMPnPInfo MakePnP(unsigned char first)
@@ -1388,8 +1386,8 @@ TEST(QRMIDeviceApplicationDuplicates, AssignmentKeepsTheTargetsOwnApplicationsFo
 
 TEST(QRMPathViews, BundleContentPathViewHasTheSameUnitsAsGetPath)
 {
-    const char* paths[] = {"", "a", "abcdefg", "abcdefgh", "FOLDER01/driver_setup_A00.exe",
-                           "dir/caf\xC3\xA9/\xF0\x9F\x98\x80.exe"};
+    const char* paths[] = {
+        "", "a", "abcdefg", "abcdefgh", "FOLDER01/driver_setup_A00.exe", "dir/caf\xC3\xA9/\xF0\x9F\x98\x80.exe"};
     for (const char* path : paths) {
         SCOPED_TRACE(path);
         QRMBundleContent content;
@@ -1412,8 +1410,8 @@ TEST(QRMPathViews, BundleContentPathViewHasTheSameUnitsAsGetPath)
 
 TEST(QRMPathViews, SoftwareComponentPathViewHasTheSameUnitsAsGetPath)
 {
-    const char* paths[] = {"", "a", "abcdefg", "abcdefgh", "FOLDER01/driver_setup_A00.exe",
-                           "dir/caf\xC3\xA9/\xF0\x9F\x98\x80.exe"};
+    const char* paths[] = {
+        "", "a", "abcdefg", "abcdefgh", "FOLDER01/driver_setup_A00.exe", "dir/caf\xC3\xA9/\xF0\x9F\x98\x80.exe"};
     for (const char* path : paths) {
         SCOPED_TRACE(path);
         QRMSoftwareComponent component;

@@ -20,8 +20,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <new>
 #include <memory>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -48,10 +48,7 @@ public:
     }
     // Moving hands the objects over: the same pointers, now owned by the
     // target; the source is left empty.
-    OwnedList(OwnedList&& other) noexcept : mRetired(std::move(other.mRetired))
-    {
-        mItems.TakeFrom(other.mItems);
-    }
+    OwnedList(OwnedList&& other) noexcept : mRetired(std::move(other.mRetired)) { mItems.TakeFrom(other.mItems); }
     OwnedList& operator=(OwnedList&& other) noexcept
     {
         if (this != &other) {
@@ -197,10 +194,7 @@ public:
     }
 
     // Appends the stored pointers, in order; `out` is not cleared.
-    void AppendPointersTo(std::vector<T*>& out) const
-    {
-        out.insert(out.end(), mItems.begin(), mItems.end());
-    }
+    void AppendPointersTo(std::vector<T*>& out) const { out.insert(out.end(), mItems.begin(), mItems.end()); }
 
     // The all-pairs rule: equal lengths, and every entry on either side
     // equal to every entry on the other. A list of two different entries is

@@ -166,8 +166,7 @@ private:
     VELString mBestVersion;
 };
 
-const Candidates* Find(const std::unordered_map<unsigned long long, Candidates>& index,
-                       unsigned long long key)
+const Candidates* Find(const std::unordered_map<unsigned long long, Candidates>& index, unsigned long long key)
 {
     auto found = index.find(key);
     return found == index.end() ? nullptr : &found->second;
@@ -203,8 +202,8 @@ try {
         const unsigned int subVendorID = static_cast<unsigned int>(device->GetSubVendorID());
         const unsigned int subDeviceID = static_cast<unsigned int>(device->GetSubDeviceID());
         const bool byComponentID = componentID != 0;
-        const Candidates* candidates = byComponentID ? Find(index.byComponentID, componentID)
-                                                     : Find(index.byPCI, PCIKey(vendorID, deviceID));
+        const Candidates* candidates =
+            byComponentID ? Find(index.byComponentID, componentID) : Find(index.byPCI, PCIKey(vendorID, deviceID));
         if (candidates == nullptr) {
             continue;
         }
@@ -219,8 +218,7 @@ try {
                 }
                 // A catalog PCI entry without sub-ids matches every sub-vendor
                 // and sub-device.
-                if (!byComponentID &&
-                    !(candidate.subDeviceID == subDeviceID && candidate.subVendorID == subVendorID) &&
+                if (!byComponentID && !(candidate.subDeviceID == subDeviceID && candidate.subVendorID == subVendorID) &&
                     !(candidate.subVendorID == 0 && candidate.subDeviceID == 0)) {
                     continue;
                 }

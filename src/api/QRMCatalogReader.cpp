@@ -15,11 +15,11 @@
 #include <memory>
 
 using qrm::AttributeNumber;
-using qrm::detail::XmlElement;
 using qrm::AttributeOrEmpty;
 using qrm::Element;
 using qrm::Failed;
 using qrm::SingleChild;
+using qrm::detail::XmlElement;
 
 namespace {
 
@@ -85,8 +85,7 @@ QRMKitReturnCode ReadNameTypeDescription(const Element& node, Entry& entry)
         if (display.IsNull()) {
             return QRM_KIT_FAILURE;
         }
-        if (Failed(entry.AddDescriptionDisplayValue(AttributeOrEmpty(display, "lang"),
-                                                    display.GetValue()))) {
+        if (Failed(entry.AddDescriptionDisplayValue(AttributeOrEmpty(display, "lang"), display.GetValue()))) {
             return QRM_KIT_FAILURE;
         }
     }
@@ -156,8 +155,7 @@ QRMKitReturnCode ReadOperatingSystem(const XmlElement& node, QRMOSArchitectureEn
     // An unknown "osArch" keeps the architecture of the entry before it:
     // kept for compatibility with catalogs that state it once.
     QRMOSArchitectureFromText(AttributeOrEmpty(osNode, "osArch"), architecture);
-    if (Failed(os.SetArchitecture(architecture)) ||
-        Failed(os.SetCode(AttributeOrEmpty(osNode, "osCode"))) ||
+    if (Failed(os.SetArchitecture(architecture)) || Failed(os.SetCode(AttributeOrEmpty(osNode, "osCode"))) ||
         Failed(os.SetVendor(AttributeOrEmpty(osNode, "osVendor"))) ||
         Failed(os.SetMajorVersion(AttributeOrEmpty(osNode, "majorVersion"))) ||
         Failed(os.SetMinorVersion(AttributeOrEmpty(osNode, "minorVersion"))) ||
@@ -195,8 +193,8 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
         if (XmlElement osNode = SingleChild(targetOSes, "OperatingSystem")) {
             QRMOperatingSystem os;
             if (Failed(os.SetCode(AttributeOrEmpty(osNode, "osCode"))) ||
-                Failed(os.SetVendor(AttributeOrEmpty(osNode, "osVendor"))) ||
-                Failed(AddOptionalDisplay(osNode, os)) || Failed(oses.AddOS(std::move(os)))) {
+                Failed(os.SetVendor(AttributeOrEmpty(osNode, "osVendor"))) || Failed(AddOptionalDisplay(osNode, os)) ||
+                Failed(oses.AddOS(std::move(os)))) {
                 return QRM_KIT_FAILURE;
             }
         }
@@ -217,8 +215,7 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareBundle(VELXMLNode*& node)
     if (contentsNode.IsNull()) {
         return QRM_KIT_ELEMENT_MISSING;
     }
-    for (XmlElement package = contentsNode.FirstChildElement(); package;
-         package = package.NextSiblingElement()) {
+    for (XmlElement package = contentsNode.FirstChildElement(); package; package = package.NextSiblingElement()) {
         QRMBundleContent content;
         if (Failed(content.SetPath(AttributeOrEmpty(package, "path")))) {
             return QRM_KIT_FAILURE;
@@ -298,8 +295,7 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
     if (XmlElement systemsNode = SingleChild(element, "SupportedSystems")) {
         QRMSupportedSystems systems;
         if (Failed(systems.SetDisplay(AttributeNumber(systemsNode, "display", 10) != 0)) ||
-            Failed(ReadBrand(systemsNode, systems)) ||
-            Failed(component.SetSupportedSystems(std::move(systems)))) {
+            Failed(ReadBrand(systemsNode, systems)) || Failed(component.SetSupportedSystems(std::move(systems)))) {
             return QRM_KIT_FAILURE;
         }
     }
@@ -307,8 +303,7 @@ QRMKitReturnCode QRMKitAPI::ParseSoftwareComponent(VELXMLNode*& node)
     if (XmlElement osesNode = SingleChild(element, "SupportedOperatingSystems")) {
         QRMSupportedOperatingSystems oses;
         QRMOSArchitectureEnum architecture = QRM_OS_ARCH_X86;
-        for (XmlElement osNode = osesNode.FirstChildElement(); osNode;
-             osNode = osNode.NextSiblingElement()) {
+        for (XmlElement osNode = osesNode.FirstChildElement(); osNode; osNode = osNode.NextSiblingElement()) {
             QRMOperatingSystem os;
             if (Failed(ReadOperatingSystem(osNode, architecture, os))) {
                 return QRM_KIT_FAILURE;

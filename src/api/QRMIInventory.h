@@ -8,9 +8,9 @@
 #include "QRMISystem.h"
 #include "QRMKitTypes.h"
 #include "QRMOperatingSystem.h"
-#include "detail/QRMOwnedList.h"
 #include "VELString.h"
 #include "VELTime.h"
+#include "detail/QRMOwnedList.h"
 
 #include <vector>
 

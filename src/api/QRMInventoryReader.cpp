@@ -13,9 +13,9 @@
 #include <memory>
 #include <string_view>
 
-using qrm::ReadAttributeNumber;
 using qrm::Failed;
 using qrm::ReadAttribute;
+using qrm::ReadAttributeNumber;
 using qrm::detail::XmlElement;
 
 namespace {
@@ -28,8 +28,7 @@ QRMKitReturnCode AddLanguageDisplays(const XmlElement& node, Holder& holder)
     VELString language;
     for (XmlElement display = node.FirstChildElement("Display"); display;
          display = display.NextSiblingElement("Display")) {
-        if (ReadAttribute(display, "lang", language) &&
-            Failed(holder.AddDisplayValue(language, display.GetValue()))) {
+        if (ReadAttribute(display, "lang", language) && Failed(holder.AddDisplayValue(language, display.GetValue()))) {
             return QRM_KIT_FAILURE;
         }
     }
@@ -80,8 +79,7 @@ QRMKitReturnCode ReadOperatingSystem(const XmlElement& node, QRMIInventory& inve
             return QRM_KIT_FAILURE;
         }
     }
-    if (Failed(SetNumberIfPresent(node, "suiteMask", 10,
-                                  [&os](unsigned int mask) { return os.SetSuiteMask(mask); })) ||
+    if (Failed(SetNumberIfPresent(node, "suiteMask", 10, [&os](unsigned int mask) { return os.SetSuiteMask(mask); })) ||
         Failed(AddLanguageDisplays(node, os)) || Failed(inventory.AddOperatingSystem(os))) {
         return QRM_KIT_FAILURE;
     }
@@ -104,8 +102,7 @@ QRMKitReturnCode ReadSystem(const XmlElement& node, QRMIInventory& inventory)
         QRMSystemIDTypeFromText(text, type);
     }
     if (Failed(SetIfPresent(node, "display", [&system](const VELString& v) { return system.SetDisplay(v); })) ||
-        Failed(SetIfPresent(node, "serviceTag",
-                            [&system](const VELString& v) { return system.SetServiceTag(v); })) ||
+        Failed(SetIfPresent(node, "serviceTag", [&system](const VELString& v) { return system.SetServiceTag(v); })) ||
         Failed(system.SetSystemIDType(type)) || Failed(inventory.AddSystem(system))) {
         return QRM_KIT_FAILURE;
     }
@@ -116,8 +113,8 @@ QRMKitReturnCode ReadSystem(const XmlElement& node, QRMIInventory& inventory)
 // adds a copy of it to the device. Whatever this Application does not set is
 // carried over from the one before it: kept for compatibility, callers rely
 // on it. `componentType` carries over for the whole inventory read.
-void ReadApplication(const XmlElement& node, QRMComponentTypeValueEnum& componentType,
-                     QRMIApplication& application, QRMIDevice& device)
+void ReadApplication(const XmlElement& node, QRMComponentTypeValueEnum& componentType, QRMIApplication& application,
+                     QRMIDevice& device)
 {
     AddLanguageDisplays(node, application);
     VELString text;
@@ -146,8 +143,7 @@ void ReadApplication(const XmlElement& node, QRMComponentTypeValueEnum& componen
 
 // QRM_KIT_FAILURE when the device is dropped (no "display", or a failing
 // setter); otherwise the result of storing it.
-QRMKitReturnCode ReadDevice(const XmlElement& node, QRMComponentTypeValueEnum& componentType,
-                            QRMIInventory& inventory)
+QRMKitReturnCode ReadDevice(const XmlElement& node, QRMComponentTypeValueEnum& componentType, QRMIInventory& inventory)
 {
     QRMIDevice device;
     AddLanguageDisplays(node, device);
@@ -160,17 +156,15 @@ QRMKitReturnCode ReadDevice(const XmlElement& node, QRMComponentTypeValueEnum& c
     auto asInt = [](unsigned int value) { return static_cast<int>(value); };
     VELString display;
     if (Failed(SetNumberIfPresent(node, "bus", 10, [&](unsigned int v) { return device.SetBus(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "device", 10,
-                                  [&](unsigned int v) { return device.SetDevice(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "function", 10,
-                                  [&](unsigned int v) { return device.SetFunction(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "componentID", 10,
-                                  [&](unsigned int v) { return device.SetComponentID(v); })) ||
+        Failed(SetNumberIfPresent(node, "device", 10, [&](unsigned int v) { return device.SetDevice(asInt(v)); })) ||
+        Failed(
+            SetNumberIfPresent(node, "function", 10, [&](unsigned int v) { return device.SetFunction(asInt(v)); })) ||
+        Failed(SetNumberIfPresent(node, "componentID", 10, [&](unsigned int v) { return device.SetComponentID(v); })) ||
         !ReadAttribute(node, "display", display) || Failed(device.SetDisplay(display)) ||
-        Failed(SetNumberIfPresent(node, "vendorID", 16,
-                                  [&](unsigned int v) { return device.SetVendorID(asInt(v)); })) ||
-        Failed(SetNumberIfPresent(node, "deviceID", 16,
-                                  [&](unsigned int v) { return device.SetDeviceID(asInt(v)); })) ||
+        Failed(
+            SetNumberIfPresent(node, "vendorID", 16, [&](unsigned int v) { return device.SetVendorID(asInt(v)); })) ||
+        Failed(
+            SetNumberIfPresent(node, "deviceID", 16, [&](unsigned int v) { return device.SetDeviceID(asInt(v)); })) ||
         Failed(SetNumberIfPresent(node, "subDeviceID", 16,
                                   [&](unsigned int v) { return device.SetSubDeviceID(asInt(v)); })) ||
         Failed(SetNumberIfPresent(node, "subVendorID", 16,
@@ -264,7 +258,10 @@ void QRMKitAPI::GetInventoryOperatingSystems(std::vector<QRMOperatingSystem>& os
     mInventory.OperatingSystems().AppendCopiesTo(oses);
 }
 
-void QRMKitAPI::GetInventorySystems(std::vector<QRMISystem>& systems) const { mInventory.Systems().AppendCopiesTo(systems); }
+void QRMKitAPI::GetInventorySystems(std::vector<QRMISystem>& systems) const
+{
+    mInventory.Systems().AppendCopiesTo(systems);
+}
 
 QRMInventoryLanguageEnum QRMKitAPI::GetInventoryLanguage() const { return mInventory.GetLanguage(); }
 

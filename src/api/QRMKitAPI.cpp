@@ -40,10 +40,7 @@ QRMKitAPI* QRMKitAPI::Instance()
 
 QRMKitAPI::QRMKitAPI() : mInitialized(false) {}
 
-QRMKitAPI::QRMKitAPI(const QRMKitAPI& other) : mInitialized(other.mInitialized)
-{
-    mCatalogFile = other.mCatalogFile;
-}
+QRMKitAPI::QRMKitAPI(const QRMKitAPI& other) : mInitialized(other.mInitialized) { mCatalogFile = other.mCatalogFile; }
 
 QRMKitAPI& QRMKitAPI::operator=(const QRMKitAPI& other)
 {
@@ -190,8 +187,7 @@ VELString QRMKitAPI::GetInventoryFile(QRMOSArchitectureEnum architecture, VELStr
         return VELString();
     }
     VELString baseLocation = mCatalogManifest.GetBaseLocation();
-    std::unique_ptr<const QRMInventoryComponent> component(
-        Instance()->GetInventoryComponent(architecture, osCode));
+    std::unique_ptr<const QRMInventoryComponent> component(Instance()->GetInventoryComponent(architecture, osCode));
     if (!component) {
         return VELString();
     }

@@ -8,10 +8,8 @@ const char* const kComponentTypes[] = {"SBDL", "FRMW", "BIOS", "APAC", "APP", "D
 const char* const kBundleTypes[] = {"BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND"};
 const char* const kArchitectures[] = {"x86", "x64", "ia64", "ia32"};
 const char* const kCriticalities[] = {"1", "2", "3"};
-const char* const kLanguages[] = {"en", "fr", "de", "es", "zh-Hans", "zh-Hant",
-                                  "ja", "hi", "kn", "te", "ta"};
-const char* const kSystemIDTypes[] = {"BIOS", "MULTISYSTEMCHASSIS", "RAIDCHASSIS", "ROUTER",
-                                      "NETWORKSWITCH"};
+const char* const kLanguages[] = {"en", "fr", "de", "es", "zh-Hans", "zh-Hant", "ja", "hi", "kn", "te", "ta"};
+const char* const kSystemIDTypes[] = {"BIOS", "MULTISYSTEMCHASSIS", "RAIDCHASSIS", "ROUTER", "NETWORKSWITCH"};
 
 template <std::size_t N>
 const char* TextOf(const char* const (&table)[N], int value)
@@ -44,11 +42,16 @@ const char* QRMSystemIDTypeText(QRMSystemIDTypeEnum value) { return TextOf(kSyst
 const char* QRMKitReturnCodeName(QRMKitReturnCode code)
 {
     switch (code) {
-    case QRM_KIT_SUCCESS: return "QRM_KIT_SUCCESS";
-    case QRM_KIT_FAILURE: return "QRM_KIT_FAILURE";
-    case QRM_KIT_ALREADY_EXISTS: return "QRM_KIT_ALREADY_EXISTS";
-    case QRM_KIT_NOT_FOUND: return "QRM_KIT_NOT_FOUND";
-    case QRM_KIT_ELEMENT_MISSING: return "QRM_KIT_ELEMENT_MISSING";
+    case QRM_KIT_SUCCESS:
+        return "QRM_KIT_SUCCESS";
+    case QRM_KIT_FAILURE:
+        return "QRM_KIT_FAILURE";
+    case QRM_KIT_ALREADY_EXISTS:
+        return "QRM_KIT_ALREADY_EXISTS";
+    case QRM_KIT_NOT_FOUND:
+        return "QRM_KIT_NOT_FOUND";
+    case QRM_KIT_ELEMENT_MISSING:
+        return "QRM_KIT_ELEMENT_MISSING";
     }
     return "";
 }

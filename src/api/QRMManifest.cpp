@@ -115,20 +115,14 @@ void QRMManifest::AddCategoryAcronym(const VELString& acronym, const VELString& 
 
 void QRMManifest::GetCategoryValueMap(TextMap& values) const { CopyInto(mCategoryValues, values); }
 
-void QRMManifest::GetCategoryAcronymMap(TextMap& acronyms) const
-{
-    CopyInto(mCategoryAcronyms, acronyms);
-}
+void QRMManifest::GetCategoryAcronymMap(TextMap& acronyms) const { CopyInto(mCategoryAcronyms, acronyms); }
 
 const qrm::detail::OwnedList<QRMSoftwareComponent>& QRMManifest::SoftwareComponents() const
 {
     return mSoftwareComponents;
 }
 
-const qrm::detail::OwnedList<QRMSoftwareBundle>& QRMManifest::SoftwareBundles() const
-{
-    return mSoftwareBundles;
-}
+const qrm::detail::OwnedList<QRMSoftwareBundle>& QRMManifest::SoftwareBundles() const { return mSoftwareBundles; }
 
 const qrm::detail::OwnedList<QRMInventoryComponent>& QRMManifest::InventoryComponents() const
 {

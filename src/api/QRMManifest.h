@@ -6,11 +6,11 @@
 
 #include "QRMInventoryComponent.h"
 #include "QRMKitTypes.h"
-#include "detail/QRMOwnedList.h"
 #include "QRMSoftwareBundle.h"
 #include "QRMSoftwareComponent.h"
 #include "VELString.h"
 #include "VELTime.h"
+#include "detail/QRMOwnedList.h"
 
 #include <cstddef>
 #include <cstdint>

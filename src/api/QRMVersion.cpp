@@ -28,8 +28,7 @@ class FieldCursor {
 public:
     explicit FieldCursor(std::u16string_view text)
         : mText(text), mEnd(std::min(text.size(), text.find(u'\0'))), mPos(0), mStart(0), mLength(0)
-    {
-    }
+    {}
 
     bool Next()
     {
@@ -70,8 +69,8 @@ std::size_t CountFields(std::u16string_view text)
 
 // Compares two fields as if the shorter were left-padded with "0" to the
 // length of the longer: 1, 0 or -1.
-int CompareFields(std::u16string_view a, std::size_t aStart, std::size_t aLength,
-                  std::u16string_view b, std::size_t bStart, std::size_t bLength)
+int CompareFields(std::u16string_view a, std::size_t aStart, std::size_t aLength, std::u16string_view b,
+                  std::size_t bStart, std::size_t bLength)
 {
     const std::size_t width = std::max(aLength, bLength);
     const std::size_t aPad = width - aLength;

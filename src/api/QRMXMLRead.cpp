@@ -6,8 +6,7 @@
 
 namespace qrm {
 
-QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocument>& document,
-                              VELXMLNode*& root)
+QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocument>& document, VELXMLNode*& root)
 {
     if (!file.Exists()) {
         return QRM_KIT_NOT_FOUND;
@@ -25,10 +24,7 @@ QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocumen
 
 namespace {
 
-bool SameName(const char* stored, const char* name)
-{
-    return stored[0] == name[0] && std::strcmp(stored, name) == 0;
-}
+bool SameName(const char* stored, const char* name) { return stored[0] == name[0] && std::strcmp(stored, name) == 0; }
 
 VELString TextOrEmpty(const char* text)
 {
@@ -96,10 +92,7 @@ bool ReadAttribute(const XmlElement& node, const char* name, VELString& value)
     return text != nullptr;
 }
 
-VELString AttributeOrEmpty(const Element& element, const char* name)
-{
-    return TextOrEmpty(element.Text(name));
-}
+VELString AttributeOrEmpty(const Element& element, const char* name) { return TextOrEmpty(element.Text(name)); }
 
 unsigned int AttributeNumber(const XmlElement& node, const char* name, unsigned int base)
 {

@@ -18,8 +18,7 @@ using detail::XmlElement;
 // Reads an XML file: QRM_KIT_NOT_FOUND when it does not exist,
 // QRM_KIT_FAILURE when it does not parse or has no root element; otherwise
 // QRM_KIT_SUCCESS with the document and its root.
-QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocument>& document,
-                              VELXMLNode*& root);
+QRMKitReturnCode OpenDocument(const VELFile& file, std::unique_ptr<VELXMLDocument>& document, VELXMLNode*& root);
 
 // The direct child of that name when there is exactly one; a null node when
 // there is none or more than one (two "Name" elements count as no "Name").

@@ -15,8 +15,7 @@ class CombinationCursor {
 public:
     CombinationCursor(std::size_t first, std::size_t last, std::size_t count)
         : mFirst(first), mLast(last), mCount(count), mStarted(false)
-    {
-    }
+    {}
 
     // Moves to the next selection (the first one on the first call); false
     // when there is none left.

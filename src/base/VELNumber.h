@@ -39,8 +39,7 @@ bool IsASCII(const Unit* units, std::size_t length)
 
 inline bool IsStreamSpace(unsigned int unit)
 {
-    return unit == u' ' || unit == u'\t' || unit == u'\n' || unit == u'\v' || unit == u'\f' ||
-           unit == u'\r';
+    return unit == u' ' || unit == u'\t' || unit == u'\n' || unit == u'\v' || unit == u'\f' || unit == u'\r';
 }
 
 inline int DigitValue(unsigned int unit, unsigned int base)

@@ -217,9 +217,8 @@ bool VELString::ContainsOnlyAlphabets() const
     if (units.empty()) {
         return false;
     }
-    return std::all_of(units.begin(), units.end(), [](char16_t unit) {
-        return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
-    });
+    return std::all_of(units.begin(), units.end(),
+                       [](char16_t unit) { return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z'); });
 }
 
 VELString VELString::RemoveVowels() const
@@ -229,8 +228,16 @@ VELString VELString::RemoveVowels() const
     kept.reserve(units.size());
     for (char16_t unit : units) {
         switch (unit) {
-        case u'A': case u'E': case u'I': case u'O': case u'U':
-        case u'a': case u'e': case u'i': case u'o': case u'u':
+        case u'A':
+        case u'E':
+        case u'I':
+        case u'O':
+        case u'U':
+        case u'a':
+        case u'e':
+        case u'i':
+        case u'o':
+        case u'u':
             break;
         default:
             kept.push_back(unit);
@@ -239,9 +246,8 @@ VELString VELString::RemoveVowels() const
     return VELString(std::move(kept));
 }
 
-void VELString::ListCombinationsOfString(char* buffer, unsigned int start, unsigned int end,
-                                         unsigned int index, unsigned int size,
-                                         std::vector<VELString>& out) const
+void VELString::ListCombinationsOfString(char* buffer, unsigned int start, unsigned int end, unsigned int index,
+                                         unsigned int size, std::vector<VELString>& out) const
 {
     if (index > size) {
         return;
@@ -277,10 +283,7 @@ void VELString::ListCombinationsOfString(char* buffer, unsigned int start, unsig
     }
 }
 
-bool operator==(const VELString& left, const VELString& right)
-{
-    return left.GetUTF16View() == right.GetUTF16View();
-}
+bool operator==(const VELString& left, const VELString& right) { return left.GetUTF16View() == right.GetUTF16View(); }
 
 bool operator!=(const VELString& left, const VELString& right) { return !(left == right); }
 

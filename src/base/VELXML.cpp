@@ -19,10 +19,7 @@ struct VELXMLDocument::Impl {
 
 using qrm::detail::XmlElement;
 
-VELXMLNode::VELXMLNode(qrm::detail::XmlHandle* node, VELXMLDocument* document)
-    : mNode(node), mDocument(document)
-{
-}
+VELXMLNode::VELXMLNode(qrm::detail::XmlHandle* node, VELXMLDocument* document) : mNode(node), mDocument(document) {}
 
 VELString VELXMLNode::GetName() const { return XmlElement::Of(*this).GetName(); }
 
@@ -45,8 +42,7 @@ VELErrorCodeEnum VELXMLNode::GetChildren(std::vector<VELXMLNode*>& children) con
     if (mNode == nullptr || mDocument == nullptr) {
         return VEL_FAILURE;
     }
-    for (XmlElement child = XmlElement::Of(*this).FirstChildElement(); child;
-         child = child.NextSiblingElement()) {
+    for (XmlElement child = XmlElement::Of(*this).FirstChildElement(); child; child = child.NextSiblingElement()) {
         children.push_back(mDocument->Wrap(XmlElement::NodeOf(child, mDocument)));
     }
     return VEL_SUCCESS;
@@ -142,7 +138,7 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
     pugi::xml_parse_status status = ReadFile(file.GetPath().GetUTF8String(), contents, size);
     if (status != pugi::status_ok) {
         errorCode = static_cast<int>(status);
-        errorText = status == pugi::status_file_not_found ? "file cannot be opened"
+        errorText = status == pugi::status_file_not_found  ? "file cannot be opened"
                     : status == pugi::status_out_of_memory ? "out of memory"
                                                            : "file cannot be read";
         return nullptr;
@@ -154,8 +150,8 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
         bytes.release(), size, pugi::parse_default, pugi::encoding_auto);
     if (!result) {
         errorCode = static_cast<int>(result.status);
-        std::string text = std::string(result.description()) + " at offset " +
-                           std::to_string(static_cast<long long>(result.offset));
+        std::string text =
+            std::string(result.description()) + " at offset " + std::to_string(static_cast<long long>(result.offset));
         errorText = VELString::FromUTF8(text.data(), text.size());
         return nullptr;
     }

@@ -70,10 +70,7 @@ QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMSubComponent, mTexts)
 VELString QRMSubComponent::GetName() const { return mName; }
 QRMKitReturnCode QRMSubComponent::SetName(VELString name) { return qrm::Store(mName, std::move(name)); }
 VELString QRMSubComponent::GetVersion() const { return mVersion; }
-QRMKitReturnCode QRMSubComponent::SetVersion(VELString version)
-{
-    return qrm::Store(mVersion, std::move(version));
-}
+QRMKitReturnCode QRMSubComponent::SetVersion(VELString version) { return qrm::Store(mVersion, std::move(version)); }
 bool QRMSubComponent::operator==(const QRMSubComponent& other) const
 {
     return mName == other.mName && mVersion == other.mVersion && mTexts.Same(other.mTexts);
@@ -82,10 +79,7 @@ bool QRMSubComponent::operator!=(const QRMSubComponent& other) const { return !(
 
 QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(QRMComponentType, mTexts)
 QRMComponentTypeValueEnum QRMComponentType::GetValue() const { return mValue; }
-QRMKitReturnCode QRMComponentType::SetValue(QRMComponentTypeValueEnum value)
-{
-    return qrm::Store(mValue, value);
-}
+QRMKitReturnCode QRMComponentType::SetValue(QRMComponentTypeValueEnum value) { return qrm::Store(mValue, value); }
 bool QRMComponentType::operator==(const QRMComponentType& other) const
 {
     return mValue == other.mValue && mTexts.Same(other.mTexts);

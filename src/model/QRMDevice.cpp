@@ -36,8 +36,14 @@ QRMKitReturnCode QRMDevice::SetRollbackInformation(QRMRollbackInformation& rollb
 
 void QRMDevice::GetPCIInfo(std::vector<QRMPCIInfo*>& out) const { mPCIInfo.AppendPointersTo(out); }
 void QRMDevice::GetPnPInfo(std::vector<QRMPnPInfo>& out) const { mRecords.Get().pnpInfo.AppendCopiesTo(out); }
-void QRMDevice::GetSubComponents(std::vector<QRMSubComponent>& out) const { mRecords.Get().subComponents.AppendCopiesTo(out); }
-void QRMDevice::GetDependencies(std::vector<QRMDependency>& out) const { mRecords.Get().dependencies.AppendCopiesTo(out); }
+void QRMDevice::GetSubComponents(std::vector<QRMSubComponent>& out) const
+{
+    mRecords.Get().subComponents.AppendCopiesTo(out);
+}
+void QRMDevice::GetDependencies(std::vector<QRMDependency>& out) const
+{
+    mRecords.Get().dependencies.AppendCopiesTo(out);
+}
 void QRMDevice::GetSoftDependencies(std::vector<QRMSoftDependency>& out) const
 {
     mRecords.Get().softDependencies.AppendCopiesTo(out);
@@ -49,8 +55,14 @@ void QRMDevice::GetApplicability(std::vector<QRMDeviceApplicability>& out) const
 
 QRMKitReturnCode QRMDevice::AddPCIInfo(QRMPCIInfo pciInfo) { return mPCIInfo.AddUnique(std::move(pciInfo)); }
 QRMKitReturnCode QRMDevice::RemovePCIInfo(const QRMPCIInfo& pciInfo) { return mPCIInfo.RemoveClosingUpEqual(pciInfo); }
-QRMKitReturnCode QRMDevice::AddPnPInfo(QRMPnPInfo pnpInfo) { return mRecords.Change().pnpInfo.AddUnique(std::move(pnpInfo)); }
-QRMKitReturnCode QRMDevice::RemovePnPInfo(const QRMPnPInfo& pnpInfo) { return mRecords.Change().pnpInfo.RemoveClosingUpEqual(pnpInfo); }
+QRMKitReturnCode QRMDevice::AddPnPInfo(QRMPnPInfo pnpInfo)
+{
+    return mRecords.Change().pnpInfo.AddUnique(std::move(pnpInfo));
+}
+QRMKitReturnCode QRMDevice::RemovePnPInfo(const QRMPnPInfo& pnpInfo)
+{
+    return mRecords.Change().pnpInfo.RemoveClosingUpEqual(pnpInfo);
+}
 QRMKitReturnCode QRMDevice::AddSubComponent(QRMSubComponent& subComponent)
 {
     return mRecords.Change().subComponents.AddUnique(subComponent);
@@ -84,22 +96,17 @@ QRMKitReturnCode QRMDevice::RemoveApplicability(QRMDeviceApplicability& applicab
     return mRecords.Change().applicability.RemoveClosingUpEqual(applicability);
 }
 
-bool QRMDevice::HasPCI(const QRMPCIInfo& pciInfo) const
-{
-    return mPCIInfo.Contains(pciInfo);
-}
+bool QRMDevice::HasPCI(const QRMPCIInfo& pciInfo) const { return mPCIInfo.Contains(pciInfo); }
 
-bool QRMDevice::HasPnP(const QRMPnPInfo& pnpInfo) const
-{
-    return mRecords.Get().pnpInfo.Contains(pnpInfo);
-}
+bool QRMDevice::HasPnP(const QRMPnPInfo& pnpInfo) const { return mRecords.Get().pnpInfo.Contains(pnpInfo); }
 
 bool QRMDevice::operator==(const QRMDevice& other) const
 {
     return mComponentID == other.mComponentID && mEmbedded == other.mEmbedded &&
            mRecords.Get().rollbackInformation == other.mRecords.Get().rollbackInformation &&
-           mPCIInfo.AllPairsEqual(other.mPCIInfo) && mRecords.Get().pnpInfo.AllPairsEqual(other.mRecords.Get().pnpInfo) &&
-           mTexts.AllPairsEqual(other.mTexts) && mRecords.Get().subComponents.AllPairsEqual(other.mRecords.Get().subComponents) &&
+           mPCIInfo.AllPairsEqual(other.mPCIInfo) &&
+           mRecords.Get().pnpInfo.AllPairsEqual(other.mRecords.Get().pnpInfo) && mTexts.AllPairsEqual(other.mTexts) &&
+           mRecords.Get().subComponents.AllPairsEqual(other.mRecords.Get().subComponents) &&
            mRecords.Get().dependencies.AllPairsEqual(other.mRecords.Get().dependencies) &&
            mRecords.Get().softDependencies.AllPairsEqual(other.mRecords.Get().softDependencies) &&
            mRecords.Get().applicability.AllPairsEqual(other.mRecords.Get().applicability);

@@ -29,8 +29,8 @@ QRMKitReturnCode QRMPCIInfo::SetSubVendorID(unsigned int id) { return qrm::Store
 
 bool QRMPCIInfo::operator==(const QRMPCIInfo& other) const
 {
-    return mVendorID == other.mVendorID && mDeviceID == other.mDeviceID &&
-           mSubVendorID == other.mSubVendorID && mSubDeviceID == other.mSubDeviceID;
+    return mVendorID == other.mVendorID && mDeviceID == other.mDeviceID && mSubVendorID == other.mSubVendorID &&
+           mSubDeviceID == other.mSubDeviceID;
 }
 
 bool QRMPCIInfo::operator!=(const QRMPCIInfo& other) const { return !(*this == other); }
@@ -57,8 +57,7 @@ QRMPnPInfo::QRMPnPInfo() : mValue{} {}
 
 QRMPnPInfo::QRMPnPInfo(const QRMPnPInfo& other)
     : mPrimary(CopyOf(other.mPrimary)), mSecondary(CopyOf(other.mSecondary)), mValue(other.mValue)
-{
-}
+{}
 
 QRMPnPInfo& QRMPnPInfo::operator=(const QRMPnPInfo& other)
 {
@@ -153,17 +152,13 @@ QRMKitReturnCode QRMRollbackInformation::SetNote(VELString note) { return qrm::S
 
 bool QRMRollbackInformation::operator==(const QRMRollbackInformation& other) const
 {
-    return mRollbackIdentifier == other.mRollbackIdentifier &&
-           mRollbackVersion == other.mRollbackVersion &&
+    return mRollbackIdentifier == other.mRollbackIdentifier && mRollbackVersion == other.mRollbackVersion &&
            mPackageIdentifier == other.mPackageIdentifier && mPackagePath == other.mPackagePath &&
-           mSessionIdentifier == other.mSessionIdentifier && mSequence == other.mSequence &&
-           mFlags == other.mFlags && mNote == other.mNote;
+           mSessionIdentifier == other.mSessionIdentifier && mSequence == other.mSequence && mFlags == other.mFlags &&
+           mNote == other.mNote;
 }
 
-bool QRMRollbackInformation::operator!=(const QRMRollbackInformation& other) const
-{
-    return !(*this == other);
-}
+bool QRMRollbackInformation::operator!=(const QRMRollbackInformation& other) const { return !(*this == other); }
 
 // ---- QRMDependency
 
@@ -183,10 +178,7 @@ QRMKitReturnCode QRMDependency::SetName(VELString name) { return qrm::Store(mNam
 VELString QRMDependency::GetVersion() const { return mVersion; }
 QRMKitReturnCode QRMDependency::SetVersion(VELString version) { return qrm::Store(mVersion, std::move(version)); }
 VELGUID QRMDependency::GetIdentifier() const { return mIdentifier; }
-QRMKitReturnCode QRMDependency::SetIdentifier(const VELGUID& identifier)
-{
-    return qrm::Store(mIdentifier, identifier);
-}
+QRMKitReturnCode QRMDependency::SetIdentifier(const VELGUID& identifier) { return qrm::Store(mIdentifier, identifier); }
 VELString QRMDependency::GetPath() const { return mPath; }
 QRMKitReturnCode QRMDependency::SetPath(VELString path) { return qrm::Store(mPath, std::move(path)); }
 unsigned long long QRMDependency::GetSize() const { return mSize; }
@@ -202,8 +194,8 @@ void QRMDependency::GetPnPInfo(std::vector<QRMPnPInfo>& out) const { mPnPInfo.Ap
 bool QRMDependency::operator==(const QRMDependency& other) const
 {
     return mType == other.mType && mName == other.mName && mVersion == other.mVersion &&
-           mIdentifier == other.mIdentifier && mPath == other.mPath && mSize == other.mSize &&
-           mFlags == other.mFlags && mTexts.Same(other.mTexts) && mPCIInfo.AllPairsEqual(other.mPCIInfo) &&
+           mIdentifier == other.mIdentifier && mPath == other.mPath && mSize == other.mSize && mFlags == other.mFlags &&
+           mTexts.Same(other.mTexts) && mPCIInfo.AllPairsEqual(other.mPCIInfo) &&
            mPnPInfo.AllPairsEqual(other.mPnPInfo);
 }
 
@@ -223,10 +215,7 @@ QRMKitReturnCode QRMSoftDependency::SetType(unsigned int type) { return mDepende
 VELString QRMSoftDependency::GetName() const { return mDependency.GetName(); }
 QRMKitReturnCode QRMSoftDependency::SetName(VELString name) { return mDependency.SetName(std::move(name)); }
 VELString QRMSoftDependency::GetVersion() const { return mDependency.GetVersion(); }
-QRMKitReturnCode QRMSoftDependency::SetVersion(VELString version)
-{
-    return mDependency.SetVersion(std::move(version));
-}
+QRMKitReturnCode QRMSoftDependency::SetVersion(VELString version) { return mDependency.SetVersion(std::move(version)); }
 VELGUID QRMSoftDependency::GetIdentifier() const { return mDependency.GetIdentifier(); }
 QRMKitReturnCode QRMSoftDependency::SetIdentifier(const VELGUID& identifier)
 {

@@ -4,10 +4,8 @@
 #include "model/QRMStore.h"
 
 QRMDisplay::QRMDisplay() = default;
-QRMDisplay::QRMDisplay(VELString language, VELString value)
-    : mLanguage(std::move(language)), mValue(std::move(value))
-{
-}
+QRMDisplay::QRMDisplay(VELString language, VELString value) : mLanguage(std::move(language)), mValue(std::move(value))
+{}
 QRMDisplay::QRMDisplay(const QRMDisplay& other) = default;
 QRMDisplay& QRMDisplay::operator=(const QRMDisplay& other) = default;
 QRMDisplay::QRMDisplay(QRMDisplay&& other) = default;
@@ -31,8 +29,7 @@ bool QRMDisplay::operator!=(const QRMDisplay& other) const { return !(*this == o
 QRMDeviceApplicability::QRMDeviceApplicability() = default;
 QRMDeviceApplicability::QRMDeviceApplicability(VELString language, VELString value)
     : mText(std::move(language), std::move(value))
-{
-}
+{}
 VELString QRMDeviceApplicability::GetLanguage() const { return mText.GetLanguage(); }
 VELString QRMDeviceApplicability::GetValue() const { return mText.GetValue(); }
 QRMKitReturnCode QRMDeviceApplicability::SetLanguage(VELString language)

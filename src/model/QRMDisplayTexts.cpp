@@ -25,9 +25,7 @@ bool AgreeFromLeft(const OwnedList<QRMDisplay>& left, const OwnedList<QRMDisplay
 
 QRMKitReturnCode DisplayTexts::Add(VELString language, VELString value)
 {
-    auto sameLanguage = [&language](const QRMDisplay& entry) {
-        return entry.GetLanguage() == language;
-    };
+    auto sameLanguage = [&language](const QRMDisplay& entry) { return entry.GetLanguage() == language; };
     if (mEntries.IndexOf(sameLanguage) < mEntries.Size()) {
         return QRM_KIT_ALREADY_EXISTS;
     }
@@ -37,8 +35,7 @@ QRMKitReturnCode DisplayTexts::Add(VELString language, VELString value)
 
 QRMKitReturnCode DisplayTexts::Remove(const VELString& language)
 {
-    return mEntries.RemoveClosingUp(
-        [&language](const QRMDisplay& entry) { return entry.GetLanguage() == language; });
+    return mEntries.RemoveClosingUp([&language](const QRMDisplay& entry) { return entry.GetLanguage() == language; });
 }
 
 void DisplayTexts::AppendCopiesTo(std::vector<QRMDisplay>& out) const { mEntries.AppendCopiesTo(out); }
@@ -55,9 +52,6 @@ bool DisplayTexts::Agree(const DisplayTexts& other) const
     return AgreeFromLeft(mEntries, other.mEntries) && AgreeFromLeft(other.mEntries, mEntries);
 }
 
-bool DisplayTexts::AllPairsEqual(const DisplayTexts& other) const
-{
-    return mEntries.AllPairsEqual(other.mEntries);
-}
+bool DisplayTexts::AllPairsEqual(const DisplayTexts& other) const { return mEntries.AllPairsEqual(other.mEntries); }
 
 }  // namespace qrm::detail

@@ -9,15 +9,12 @@
 #include <utility>
 #include <vector>
 
-#define QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(Holder, texts)                            \
-    QRMKitReturnCode Holder::AddDisplayValue(VELString language, VELString value)        \
-    {                                                                                    \
-        return texts.Add(std::move(language), std::move(value));                         \
-    }                                                                                    \
-    QRMKitReturnCode Holder::RemoveDisplayValue(const VELString& language)               \
-    {                                                                                    \
-        return texts.Remove(language);                                                   \
-    }                                                                                    \
+#define QRMKIT_DEFINE_DISPLAY_VALUE_OPERATIONS(Holder, texts)                                                          \
+    QRMKitReturnCode Holder::AddDisplayValue(VELString language, VELString value)                                      \
+    {                                                                                                                  \
+        return texts.Add(std::move(language), std::move(value));                                                       \
+    }                                                                                                                  \
+    QRMKitReturnCode Holder::RemoveDisplayValue(const VELString& language) { return texts.Remove(language); }          \
     void Holder::GetDisplayValues(std::vector<QRMDisplay>& out) const { texts.AppendCopiesTo(out); }
 
 #endif

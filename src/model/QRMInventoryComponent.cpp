@@ -72,12 +72,8 @@ bool QRMInventoryComponent::operator==(const QRMInventoryComponent& other) const
 {
     return mSchemaVersion == other.mSchemaVersion && mReleaseID == other.mReleaseID &&
            mReleaseDate == other.mReleaseDate && mVendorVersion == other.mVendorVersion &&
-           mTolvarVersion == other.mTolvarVersion && mOSCode == other.mOSCode &&
-           mHashMD5 == other.mHashMD5 && mPath == other.mPath &&
-           mDateTime == other.mDateTime && mSize == other.mSize;
+           mTolvarVersion == other.mTolvarVersion && mOSCode == other.mOSCode && mHashMD5 == other.mHashMD5 &&
+           mPath == other.mPath && mDateTime == other.mDateTime && mSize == other.mSize;
 }
 
-bool QRMInventoryComponent::operator!=(const QRMInventoryComponent& other) const
-{
-    return !(*this == other);
-}
+bool QRMInventoryComponent::operator!=(const QRMInventoryComponent& other) const { return !(*this == other); }

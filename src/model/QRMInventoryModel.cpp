@@ -37,9 +37,8 @@ QRMKitReturnCode QRMIApplication::SetSubComponentID(VELString subComponentID)
 
 bool QRMIApplication::operator==(const QRMIApplication& other) const
 {
-    return mComponentType == other.mComponentType && mVersion == other.mVersion &&
-           mDisplay == other.mDisplay && mSubComponentID == other.mSubComponentID &&
-           mTexts.Same(other.mTexts);
+    return mComponentType == other.mComponentType && mVersion == other.mVersion && mDisplay == other.mDisplay &&
+           mSubComponentID == other.mSubComponentID && mTexts.Same(other.mTexts);
 }
 
 bool QRMIApplication::operator!=(const QRMIApplication& other) const { return !(*this == other); }
@@ -119,19 +118,16 @@ void ApplicationList::RetireEqual(const QRMIApplication& application)
 }  // namespace qrm::detail
 
 QRMIDevice::QRMIDevice()
-    : mBus(0), mDevice(0), mFunction(0), mComponentID(0),
-      mVendorID(0), mDeviceID(0), mSubDeviceID(0), mSubVendorID(0), mComponentInstance(0)
-{
-}
+    : mBus(0), mDevice(0), mFunction(0), mComponentID(0), mVendorID(0), mDeviceID(0), mSubDeviceID(0), mSubVendorID(0),
+      mComponentInstance(0)
+{}
 
 QRMIDevice::QRMIDevice(const QRMIDevice& other)
-    : mTexts(other.mTexts), mApplications(other.mApplications),
-      mDisplay(other.mDisplay), mBus(other.mBus), mDevice(other.mDevice),
-      mFunction(other.mFunction), mComponentID(other.mComponentID), mVendorID(other.mVendorID),
-      mDeviceID(other.mDeviceID), mSubDeviceID(other.mSubDeviceID),
-      mSubVendorID(other.mSubVendorID), mComponentInstance(other.mComponentInstance)
-{
-}
+    : mTexts(other.mTexts), mApplications(other.mApplications), mDisplay(other.mDisplay), mBus(other.mBus),
+      mDevice(other.mDevice), mFunction(other.mFunction), mComponentID(other.mComponentID), mVendorID(other.mVendorID),
+      mDeviceID(other.mDeviceID), mSubDeviceID(other.mSubDeviceID), mSubVendorID(other.mSubVendorID),
+      mComponentInstance(other.mComponentInstance)
+{}
 
 QRMIDevice& QRMIDevice::operator=(const QRMIDevice& other)
 {
@@ -215,10 +211,9 @@ bool QRMIDevice::operator==(const QRMIDevice& other) const
 {
     // The numbers first: they tell most devices apart at once, which keeps
     // the duplicate check of a large inventory fast.
-    return mComponentID == other.mComponentID && mVendorID == other.mVendorID &&
-           mDeviceID == other.mDeviceID && mSubDeviceID == other.mSubDeviceID &&
-           mSubVendorID == other.mSubVendorID && mBus == other.mBus && mDevice == other.mDevice &&
-           mFunction == other.mFunction && mComponentInstance == other.mComponentInstance &&
+    return mComponentID == other.mComponentID && mVendorID == other.mVendorID && mDeviceID == other.mDeviceID &&
+           mSubDeviceID == other.mSubDeviceID && mSubVendorID == other.mSubVendorID && mBus == other.mBus &&
+           mDevice == other.mDevice && mFunction == other.mFunction && mComponentInstance == other.mComponentInstance &&
            mDisplay == other.mDisplay && mTexts.Agree(other.mTexts) &&
            !ShareAnApplication(mApplications.Entries(), other.mApplications.Entries()) &&
            !ShareAnApplication(other.mApplications.Entries(), mApplications.Entries());
@@ -247,12 +242,15 @@ QRMKitReturnCode QRMISystem::SetSystemIDType(QRMSystemIDTypeEnum systemIDType)
 VELString QRMISystem::GetDisplay() const { return mDisplay; }
 QRMKitReturnCode QRMISystem::SetDisplay(VELString display) { return qrm::Store(mDisplay, std::move(display)); }
 VELString QRMISystem::GetServiceTag() const { return mServiceTag; }
-QRMKitReturnCode QRMISystem::SetServiceTag(VELString serviceTag) { return qrm::Store(mServiceTag, std::move(serviceTag)); }
+QRMKitReturnCode QRMISystem::SetServiceTag(VELString serviceTag)
+{
+    return qrm::Store(mServiceTag, std::move(serviceTag));
+}
 
 bool QRMISystem::operator==(const QRMISystem& other) const
 {
-    return mSystemID == other.mSystemID && mSystemIDType == other.mSystemIDType &&
-           mDisplay == other.mDisplay && mServiceTag == other.mServiceTag && mTexts.Same(other.mTexts);
+    return mSystemID == other.mSystemID && mSystemIDType == other.mSystemIDType && mDisplay == other.mDisplay &&
+           mServiceTag == other.mServiceTag && mTexts.Same(other.mTexts);
 }
 
 bool QRMISystem::operator!=(const QRMISystem& other) const { return !(*this == other); }

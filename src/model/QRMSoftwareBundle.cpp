@@ -12,7 +12,10 @@ QRMBundleContent& QRMBundleContent::operator=(QRMBundleContent&& other) = defaul
 QRMBundleContent::~QRMBundleContent() = default;
 
 VELString QRMBundleContent::GetPackageID() const { return mPackageID; }
-QRMKitReturnCode QRMBundleContent::SetPackageID(VELString packageID) { return qrm::Store(mPackageID, std::move(packageID)); }
+QRMKitReturnCode QRMBundleContent::SetPackageID(VELString packageID)
+{
+    return qrm::Store(mPackageID, std::move(packageID));
+}
 VELString QRMBundleContent::GetPath() const { return mPath; }
 std::u16string_view QRMBundleContent::GetPathView() const { return mPath.GetUTF16View(); }
 QRMKitReturnCode QRMBundleContent::SetPath(VELString path) { return qrm::Store(mPath, std::move(path)); }
@@ -66,13 +69,19 @@ QRMKitReturnCode QRMSoftwareBundle::SetImportantInfo(QRMImportantInfo info)
     return qrm::Store(mImportantInfo, std::move(info));
 }
 VELString QRMSoftwareBundle::GetSchemaVersion() const { return mSchemaVersion; }
-QRMKitReturnCode QRMSoftwareBundle::SetSchemaVersion(VELString value) { return qrm::Store(mSchemaVersion, std::move(value)); }
+QRMKitReturnCode QRMSoftwareBundle::SetSchemaVersion(VELString value)
+{
+    return qrm::Store(mSchemaVersion, std::move(value));
+}
 VELString QRMSoftwareBundle::GetReleaseID() const { return mReleaseID; }
 QRMKitReturnCode QRMSoftwareBundle::SetReleaseID(VELString value) { return qrm::Store(mReleaseID, std::move(value)); }
 VELTime QRMSoftwareBundle::GetDateTime() const { return mDateTime; }
 QRMKitReturnCode QRMSoftwareBundle::SetDateTime(const VELTime& value) { return qrm::Store(mDateTime, value); }
 VELString QRMSoftwareBundle::GetVendorVersion() const { return mVendorVersion; }
-QRMKitReturnCode QRMSoftwareBundle::SetVendorVersion(VELString value) { return qrm::Store(mVendorVersion, std::move(value)); }
+QRMKitReturnCode QRMSoftwareBundle::SetVendorVersion(VELString value)
+{
+    return qrm::Store(mVendorVersion, std::move(value));
+}
 VELString QRMSoftwareBundle::GetPath() const { return mPath; }
 QRMKitReturnCode QRMSoftwareBundle::SetPath(VELString value) { return qrm::Store(mPath, std::move(value)); }
 VELString QRMSoftwareBundle::GetBundleID() const { return mBundleID; }
@@ -92,8 +101,7 @@ void QRMSoftwareBundle::GetDescriptionDisplayValues(std::vector<QRMDisplay>& out
     mDescription.AppendCopiesTo(out);
 }
 
-QRMKitReturnCode QRMSoftwareBundle::AddDescriptionDisplayValue(VELString language,
-                                                               VELString value)
+QRMKitReturnCode QRMSoftwareBundle::AddDescriptionDisplayValue(VELString language, VELString value)
 {
     return mDescription.Add(std::move(language), std::move(value));
 }
@@ -109,10 +117,7 @@ QRMKitReturnCode QRMSoftwareBundle::AddContent(QRMBundleContent content)
     return QRM_KIT_SUCCESS;
 }
 
-void QRMSoftwareBundle::GetContents(std::vector<QRMBundleContent>& out) const
-{
-    mContents.AppendCopiesTo(out);
-}
+void QRMSoftwareBundle::GetContents(std::vector<QRMBundleContent>& out) const { mContents.AppendCopiesTo(out); }
 
 void QRMSoftwareBundle::GetSupportedSystemIDs(std::vector<unsigned int>& out) const
 {

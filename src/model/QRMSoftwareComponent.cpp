@@ -5,10 +5,8 @@
 // ---- QRMFMPWrapperInformation
 
 QRMFMPWrapperInformation::QRMFMPWrapperInformation()
-    : mDigitallySigned(false), mInventorySupported(false), mUpdateSupported(false),
-      mRollbackSupported(false)
-{
-}
+    : mDigitallySigned(false), mInventorySupported(false), mUpdateSupported(false), mRollbackSupported(false)
+{}
 QRMFMPWrapperInformation::QRMFMPWrapperInformation(const QRMFMPWrapperInformation& other) = default;
 QRMFMPWrapperInformation& QRMFMPWrapperInformation::operator=(const QRMFMPWrapperInformation& other) = default;
 QRMFMPWrapperInformation::QRMFMPWrapperInformation(QRMFMPWrapperInformation&& other) = default;
@@ -16,7 +14,10 @@ QRMFMPWrapperInformation& QRMFMPWrapperInformation::operator=(QRMFMPWrapperInfor
 QRMFMPWrapperInformation::~QRMFMPWrapperInformation() = default;
 
 bool QRMFMPWrapperInformation::IsDigitallySigned() const { return mDigitallySigned; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetDigitallySigned(bool value) { return qrm::Store(mDigitallySigned, value); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetDigitallySigned(bool value)
+{
+    return qrm::Store(mDigitallySigned, value);
+}
 VELString QRMFMPWrapperInformation::GetName() const { return mName; }
 QRMKitReturnCode QRMFMPWrapperInformation::SetName(VELString value) { return qrm::Store(mName, std::move(value)); }
 bool QRMFMPWrapperInformation::IsInventorySupported() const { return mInventorySupported; }
@@ -25,13 +26,25 @@ QRMKitReturnCode QRMFMPWrapperInformation::SetInventorySupported(bool value)
     return qrm::Store(mInventorySupported, value);
 }
 bool QRMFMPWrapperInformation::IsUpdateSupported() const { return mUpdateSupported; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetUpdateSupported(bool value) { return qrm::Store(mUpdateSupported, value); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetUpdateSupported(bool value)
+{
+    return qrm::Store(mUpdateSupported, value);
+}
 VELGUID QRMFMPWrapperInformation::GetIdentifier() const { return mIdentifier; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetIdentifier(const VELGUID& value) { return qrm::Store(mIdentifier, value); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetIdentifier(const VELGUID& value)
+{
+    return qrm::Store(mIdentifier, value);
+}
 VELString QRMFMPWrapperInformation::GetFilePath() const { return mFilePath; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetFilePath(VELString value) { return qrm::Store(mFilePath, std::move(value)); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetFilePath(VELString value)
+{
+    return qrm::Store(mFilePath, std::move(value));
+}
 VELString QRMFMPWrapperInformation::GetDriverName() const { return mDriverName; }
-QRMKitReturnCode QRMFMPWrapperInformation::SetDriverName(VELString value) { return qrm::Store(mDriverName, std::move(value)); }
+QRMKitReturnCode QRMFMPWrapperInformation::SetDriverName(VELString value)
+{
+    return qrm::Store(mDriverName, std::move(value));
+}
 VELString QRMFMPWrapperInformation::GetDriverVersion() const { return mDriverVersion; }
 QRMKitReturnCode QRMFMPWrapperInformation::SetDriverVersion(VELString value)
 {
@@ -46,16 +59,12 @@ QRMKitReturnCode QRMFMPWrapperInformation::SetRollbackSupported(bool value)
 bool QRMFMPWrapperInformation::operator==(const QRMFMPWrapperInformation& other) const
 {
     return mDigitallySigned == other.mDigitallySigned && mName == other.mName &&
-           mInventorySupported == other.mInventorySupported &&
-           mUpdateSupported == other.mUpdateSupported && mIdentifier == other.mIdentifier &&
-           mFilePath == other.mFilePath && mDriverName == other.mDriverName &&
+           mInventorySupported == other.mInventorySupported && mUpdateSupported == other.mUpdateSupported &&
+           mIdentifier == other.mIdentifier && mFilePath == other.mFilePath && mDriverName == other.mDriverName &&
            mDriverVersion == other.mDriverVersion && mRollbackSupported == other.mRollbackSupported;
 }
 
-bool QRMFMPWrapperInformation::operator!=(const QRMFMPWrapperInformation& other) const
-{
-    return !(*this == other);
-}
+bool QRMFMPWrapperInformation::operator!=(const QRMFMPWrapperInformation& other) const { return !(*this == other); }
 
 // ---- QRMSoftwareComponent
 
@@ -87,7 +96,10 @@ QRMKitReturnCode QRMSoftwareComponent::SetComponentType(QRMComponentType compone
     return qrm::Store(mComponentType, std::move(componentType));
 }
 QRMCategory QRMSoftwareComponent::GetCategory() const { return mCategory; }
-QRMKitReturnCode QRMSoftwareComponent::SetCategory(QRMCategory category) { return qrm::Store(mCategory, std::move(category)); }
+QRMKitReturnCode QRMSoftwareComponent::SetCategory(QRMCategory category)
+{
+    return qrm::Store(mCategory, std::move(category));
+}
 QRMLUCategory QRMSoftwareComponent::GetLUCategory() const { return mLUCategory; }
 QRMKitReturnCode QRMSoftwareComponent::SetLUCategory(QRMLUCategory category)
 {
@@ -129,36 +141,69 @@ QRMKitReturnCode QRMSoftwareComponent::SetCriticality(QRMCriticality criticality
 VELGUID QRMSoftwareComponent::GetMSIID() const { return mExtras.Get().msiID; }
 QRMKitReturnCode QRMSoftwareComponent::SetMSIID(VELGUID& id) { return qrm::Store(mExtras.Change().msiID, id); }
 VELString QRMSoftwareComponent::GetSchemaVersion() const { return mSchemaVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetSchemaVersion(VELString value) { return qrm::Store(mSchemaVersion, std::move(value)); }
+QRMKitReturnCode QRMSoftwareComponent::SetSchemaVersion(VELString value)
+{
+    return qrm::Store(mSchemaVersion, std::move(value));
+}
 VELString QRMSoftwareComponent::GetReleaseID() const { return mReleaseID; }
-QRMKitReturnCode QRMSoftwareComponent::SetReleaseID(VELString value) { return qrm::Store(mReleaseID, std::move(value)); }
+QRMKitReturnCode QRMSoftwareComponent::SetReleaseID(VELString value)
+{
+    return qrm::Store(mReleaseID, std::move(value));
+}
 VELTime QRMSoftwareComponent::GetReleaseDate() const { return mReleaseDate; }
 QRMKitReturnCode QRMSoftwareComponent::SetReleaseDate(const VELTime& value) { return qrm::Store(mReleaseDate, value); }
 VELString QRMSoftwareComponent::GetVendorVersion() const { return mVendorVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetVendorVersion(VELString value) { return qrm::Store(mVendorVersion, std::move(value)); }
+QRMKitReturnCode QRMSoftwareComponent::SetVendorVersion(VELString value)
+{
+    return qrm::Store(mVendorVersion, std::move(value));
+}
 VELString QRMSoftwareComponent::GetTolvarVersion() const { return mTolvarVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetTolvarVersion(VELString value) { return qrm::Store(mTolvarVersion, std::move(value)); }
+QRMKitReturnCode QRMSoftwareComponent::SetTolvarVersion(VELString value)
+{
+    return qrm::Store(mTolvarVersion, std::move(value));
+}
 VELString QRMSoftwareComponent::GetPackageType() const { return mPackageType; }
-QRMKitReturnCode QRMSoftwareComponent::SetPackageType(VELString value) { return qrm::Store(mPackageType, std::move(value)); }
+QRMKitReturnCode QRMSoftwareComponent::SetPackageType(VELString value)
+{
+    return qrm::Store(mPackageType, std::move(value));
+}
 VELString QRMSoftwareComponent::GetXMLGenVersion() const { return mExtras.Get().xmlGenVersion; }
-QRMKitReturnCode QRMSoftwareComponent::SetXMLGenVersion(VELString value) { return qrm::Store(mExtras.Change().xmlGenVersion, std::move(value)); }
+QRMKitReturnCode QRMSoftwareComponent::SetXMLGenVersion(VELString value)
+{
+    return qrm::Store(mExtras.Change().xmlGenVersion, std::move(value));
+}
 VELString QRMSoftwareComponent::GetPath() const { return mPath; }
 std::u16string_view QRMSoftwareComponent::GetPathView() const { return mPath.GetUTF16View(); }
 QRMKitReturnCode QRMSoftwareComponent::SetPath(VELString value) { return qrm::Store(mPath, std::move(value)); }
 VELString QRMSoftwareComponent::GetPackageID() const { return mPackageID; }
-QRMKitReturnCode QRMSoftwareComponent::SetPackageID(VELString value) { return qrm::Store(mPackageID, std::move(value)); }
+QRMKitReturnCode QRMSoftwareComponent::SetPackageID(VELString value)
+{
+    return qrm::Store(mPackageID, std::move(value));
+}
 VELTime QRMSoftwareComponent::GetDateTime() const { return mDateTime; }
 QRMKitReturnCode QRMSoftwareComponent::SetDateTime(const VELTime& value) { return qrm::Store(mDateTime, value); }
 VELString QRMSoftwareComponent::GetMD5Hash() const { return mHashMD5; }
 QRMKitReturnCode QRMSoftwareComponent::SetMD5Hash(VELString value) { return qrm::Store(mHashMD5, std::move(value)); }
 unsigned long long QRMSoftwareComponent::GetSize() const { return mExtras.Get().size; }
-QRMKitReturnCode QRMSoftwareComponent::SetSize(unsigned long long value) { return qrm::Store(mExtras.Change().size, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetSize(unsigned long long value)
+{
+    return qrm::Store(mExtras.Change().size, value);
+}
 VELGUID QRMSoftwareComponent::GetIdentifier() const { return mExtras.Get().identifier; }
-QRMKitReturnCode QRMSoftwareComponent::SetIdentifier(VELGUID& id) { return qrm::Store(mExtras.Change().identifier, id); }
+QRMKitReturnCode QRMSoftwareComponent::SetIdentifier(VELGUID& id)
+{
+    return qrm::Store(mExtras.Change().identifier, id);
+}
 VELGUID QRMSoftwareComponent::GetPredecessor() const { return mExtras.Get().predecessor; }
-QRMKitReturnCode QRMSoftwareComponent::SetPredecessor(VELGUID& id) { return qrm::Store(mExtras.Change().predecessor, id); }
+QRMKitReturnCode QRMSoftwareComponent::SetPredecessor(VELGUID& id)
+{
+    return qrm::Store(mExtras.Change().predecessor, id);
+}
 bool QRMSoftwareComponent::RequiresReboot() const { return mExtras.Get().requiresReboot; }
-QRMKitReturnCode QRMSoftwareComponent::SetRequiresReboot(bool value) { return qrm::Store(mExtras.Change().requiresReboot, value); }
+QRMKitReturnCode QRMSoftwareComponent::SetRequiresReboot(bool value)
+{
+    return qrm::Store(mExtras.Change().requiresReboot, value);
+}
 bool QRMSoftwareComponent::RequiresContainerPowerCycle() const { return mExtras.Get().requiresContainerPowerCycle; }
 QRMKitReturnCode QRMSoftwareComponent::SetRequiresContainerPowerCycle(bool value)
 {
@@ -170,8 +215,7 @@ void QRMSoftwareComponent::GetDescriptionDisplayValues(std::vector<QRMDisplay>& 
     mDescription.AppendCopiesTo(out);
 }
 
-QRMKitReturnCode QRMSoftwareComponent::AddDescriptionDisplayValue(VELString language,
-                                                                  VELString value)
+QRMKitReturnCode QRMSoftwareComponent::AddDescriptionDisplayValue(VELString language, VELString value)
 {
     return mDescription.Add(std::move(language), std::move(value));
 }
@@ -220,22 +264,18 @@ bool QRMSoftwareComponent::operator==(const QRMSoftwareComponent& other) const
 {
     const Extras& mine = mExtras.Get();
     const Extras& theirs = other.mExtras.Get();
-    return mName == other.mName && mComponentType == other.mComponentType &&
-           mDescription.Same(other.mDescription) && mCategory == other.mCategory &&
-           mLUCategory == other.mLUCategory &&
-           mSupportedDevices.AllPairsEqual(other.mSupportedDevices) &&
-           mSupportedSystems == other.mSupportedSystems &&
+    return mName == other.mName && mComponentType == other.mComponentType && mDescription.Same(other.mDescription) &&
+           mCategory == other.mCategory && mLUCategory == other.mLUCategory &&
+           mSupportedDevices.AllPairsEqual(other.mSupportedDevices) && mSupportedSystems == other.mSupportedSystems &&
            mSupportedOperatingSystems == other.mSupportedOperatingSystems &&
-           mine.installInstruction == theirs.installInstruction &&
-           mine.revisionHistory == theirs.revisionHistory && mImportantInfo == other.mImportantInfo &&
-           mCriticality == other.mCriticality && mine.msiID == theirs.msiID &&
+           mine.installInstruction == theirs.installInstruction && mine.revisionHistory == theirs.revisionHistory &&
+           mImportantInfo == other.mImportantInfo && mCriticality == other.mCriticality && mine.msiID == theirs.msiID &&
            mine.wrappers.AllPairsEqual(theirs.wrappers) && mSchemaVersion == other.mSchemaVersion &&
            mReleaseID == other.mReleaseID && mReleaseDate == other.mReleaseDate &&
            mVendorVersion == other.mVendorVersion && mTolvarVersion == other.mTolvarVersion &&
-           mPackageType == other.mPackageType && mine.xmlGenVersion == theirs.xmlGenVersion &&
-           mPath == other.mPath && mPackageID == other.mPackageID &&
-           mDateTime == other.mDateTime && mHashMD5 == other.mHashMD5 && mine.size == theirs.size &&
-           mine.identifier == theirs.identifier && mine.predecessor == theirs.predecessor &&
+           mPackageType == other.mPackageType && mine.xmlGenVersion == theirs.xmlGenVersion && mPath == other.mPath &&
+           mPackageID == other.mPackageID && mDateTime == other.mDateTime && mHashMD5 == other.mHashMD5 &&
+           mine.size == theirs.size && mine.identifier == theirs.identifier && mine.predecessor == theirs.predecessor &&
            mine.requiresReboot == theirs.requiresReboot &&
            mine.requiresContainerPowerCycle == theirs.requiresContainerPowerCycle;
 }

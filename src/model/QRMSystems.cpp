@@ -10,10 +10,8 @@
 
 // ---- QRMOperatingSystem
 
-QRMOperatingSystem::QRMOperatingSystem()
-    : mArchitecture(QRM_OS_ARCH_X86), mPreInstallEnvironment(false), mSuiteMask(0)
-{
-}
+QRMOperatingSystem::QRMOperatingSystem() : mArchitecture(QRM_OS_ARCH_X86), mPreInstallEnvironment(false), mSuiteMask(0)
+{}
 QRMOperatingSystem::QRMOperatingSystem(const QRMOperatingSystem& other) = default;
 QRMOperatingSystem& QRMOperatingSystem::operator=(const QRMOperatingSystem& other) = default;
 QRMOperatingSystem::QRMOperatingSystem(QRMOperatingSystem&& other) = default;
@@ -62,26 +60,18 @@ QRMKitReturnCode QRMOperatingSystem::SetSuiteMask(unsigned long long suiteMask)
     return qrm::Store(mSuiteMask, suiteMask);
 }
 
-QRMKitReturnCode QRMOperatingSystem::AddNumericTag(unsigned int tag)
-{
-    return mNumericTags.AddUnique(tag);
-}
+QRMKitReturnCode QRMOperatingSystem::AddNumericTag(unsigned int tag) { return mNumericTags.AddUnique(tag); }
 
-void QRMOperatingSystem::GetNumericTags(std::vector<unsigned int>& out) const
-{
-    mNumericTags.AppendCopiesTo(out);
-}
+void QRMOperatingSystem::GetNumericTags(std::vector<unsigned int>& out) const { mNumericTags.AppendCopiesTo(out); }
 
 bool QRMOperatingSystem::operator==(const QRMOperatingSystem& other) const
 {
-    return mCode == other.mCode && mVendor == other.mVendor &&
-           mArchitecture == other.mArchitecture && mMajorVersion == other.mMajorVersion &&
-           mMinorVersion == other.mMinorVersion &&
+    return mCode == other.mCode && mVendor == other.mVendor && mArchitecture == other.mArchitecture &&
+           mMajorVersion == other.mMajorVersion && mMinorVersion == other.mMinorVersion &&
            mServicePackMajorVersion == other.mServicePackMajorVersion &&
            mServicePackMinorVersion == other.mServicePackMinorVersion &&
-           mPreInstallEnvironment == other.mPreInstallEnvironment &&
-           mSuiteMask == other.mSuiteMask && mNumericTags.AllPairsEqual(other.mNumericTags) &&
-           mTexts.Same(other.mTexts);
+           mPreInstallEnvironment == other.mPreInstallEnvironment && mSuiteMask == other.mSuiteMask &&
+           mNumericTags.AllPairsEqual(other.mNumericTags) && mTexts.Same(other.mTexts);
 }
 
 bool QRMOperatingSystem::operator!=(const QRMOperatingSystem& other) const { return !(*this == other); }
@@ -90,8 +80,8 @@ bool QRMOperatingSystem::operator!=(const QRMOperatingSystem& other) const { ret
 
 QRMSupportedOperatingSystems::QRMSupportedOperatingSystems() = default;
 QRMSupportedOperatingSystems::QRMSupportedOperatingSystems(const QRMSupportedOperatingSystems& other) = default;
-QRMSupportedOperatingSystems& QRMSupportedOperatingSystems::operator=(
-    const QRMSupportedOperatingSystems& other) = default;
+QRMSupportedOperatingSystems&
+QRMSupportedOperatingSystems::operator=(const QRMSupportedOperatingSystems& other) = default;
 QRMSupportedOperatingSystems::QRMSupportedOperatingSystems(QRMSupportedOperatingSystems&& other) = default;
 QRMSupportedOperatingSystems& QRMSupportedOperatingSystems::operator=(QRMSupportedOperatingSystems&& other) = default;
 QRMSupportedOperatingSystems::~QRMSupportedOperatingSystems() = default;
@@ -101,10 +91,7 @@ void QRMSupportedOperatingSystems::GetOSes(std::vector<QRMOperatingSystem>& out)
     mOperatingSystems.AppendCopiesTo(out);
 }
 
-QRMKitReturnCode QRMSupportedOperatingSystems::AddOS(QRMOperatingSystem& os)
-{
-    return mOperatingSystems.AddUnique(os);
-}
+QRMKitReturnCode QRMSupportedOperatingSystems::AddOS(QRMOperatingSystem& os) { return mOperatingSystems.AddUnique(os); }
 
 QRMKitReturnCode QRMSupportedOperatingSystems::AddOS(QRMOperatingSystem&& os)
 {
@@ -144,10 +131,7 @@ QRMKitReturnCode QRMModel::SetSecondID(unsigned int secondID) { return qrm::Stor
 unsigned int QRMModel::GetThirdID() const { return mThirdID; }
 QRMKitReturnCode QRMModel::SetThirdID(unsigned int thirdID) { return qrm::Store(mThirdID, thirdID); }
 
-QRMKitReturnCode QRMModel::AddSubBrand(QRMBrand brand)
-{
-    return mSubBrands.AddUnique(std::move(brand));
-}
+QRMKitReturnCode QRMModel::AddSubBrand(QRMBrand brand) { return mSubBrands.AddUnique(std::move(brand)); }
 
 void QRMModel::GetSubBrands(std::vector<QRMBrand*>& out) const { mSubBrands.AppendPointersTo(out); }
 
@@ -183,8 +167,7 @@ bool SameIdentifiedModels(const qrm::detail::OwnedList<QRMModel>& left, const qr
 {
     for (const QRMModel* a : left) {
         for (const QRMModel* b : right) {
-            if (b->GetSystemID() == a->GetSystemID() && b->GetSecondID() == a->GetSecondID() &&
-                a != b) {
+            if (b->GetSystemID() == a->GetSystemID() && b->GetSecondID() == a->GetSecondID() && a != b) {
                 return false;
             }
         }
@@ -197,8 +180,7 @@ bool SameIdentifiedModels(const qrm::detail::OwnedList<QRMModel>& left, const qr
 bool QRMBrand::operator==(const QRMBrand& other) const
 {
     return mKey == other.mKey && mPrefix == other.mPrefix && mTexts.Same(other.mTexts) &&
-           mModels.Size() == other.mModels.Size() &&
-           SameIdentifiedModels(mModels, other.mModels) &&
+           mModels.Size() == other.mModels.Size() && SameIdentifiedModels(mModels, other.mModels) &&
            SameIdentifiedModels(other.mModels, mModels);
 }
 

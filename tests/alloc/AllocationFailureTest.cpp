@@ -73,13 +73,12 @@ std::string Describe(const QRMIDevice& device)
 std::string Describe(const QRMSoftwareComponent& component)
 {
     std::string text = component.GetPackageID().GetUTF8String() + "|" + component.GetPath().GetUTF8String() + "|" +
-                       component.GetVendorVersion().GetUTF8String() + "|" +
-                       component.GetReleaseID().GetUTF8String() + "|" +
-                       component.GetSchemaVersion().GetUTF8String() + "|" +
-                       component.GetPackageType().GetUTF8String() + "|" + std::to_string(component.GetSize()) +
-                       "|" + std::to_string(component.GetComponentType().GetValue()) + "|" +
-                       Texts(component.GetName()) + "|" + Texts(component.GetCategory()) + "|" +
-                       Texts(component.GetCriticality()) + "|" + Texts(component.GetComponentType());
+                       component.GetVendorVersion().GetUTF8String() + "|" + component.GetReleaseID().GetUTF8String() +
+                       "|" + component.GetSchemaVersion().GetUTF8String() + "|" +
+                       component.GetPackageType().GetUTF8String() + "|" + std::to_string(component.GetSize()) + "|" +
+                       std::to_string(component.GetComponentType().GetValue()) + "|" + Texts(component.GetName()) +
+                       "|" + Texts(component.GetCategory()) + "|" + Texts(component.GetCriticality()) + "|" +
+                       Texts(component.GetComponentType());
     std::vector<QRMDevice*> devices;
     component.GetSupportedDevices(devices);
     for (const QRMDevice* device : devices) {
@@ -97,8 +96,8 @@ std::string Describe(const QRMSoftwareComponent& component)
 std::string Describe(const QRMSoftwareBundle& bundle)
 {
     std::string text = bundle.GetBundleID().GetUTF8String() + "|" + bundle.GetPath().GetUTF8String() + "|" +
-                       bundle.GetReleaseID().GetUTF8String() + "|" + bundle.GetVendorVersion().GetUTF8String() +
-                       "|" + std::to_string(bundle.GetBundleType()) + "|" + Texts(bundle.GetName()) + "|" +
+                       bundle.GetReleaseID().GetUTF8String() + "|" + bundle.GetVendorVersion().GetUTF8String() + "|" +
+                       std::to_string(bundle.GetBundleType()) + "|" + Texts(bundle.GetName()) + "|" +
                        std::to_string(bundle.GetComponentType().GetValue());
     std::vector<QRMBundleContent> contents;
     bundle.GetContents(contents);

@@ -167,9 +167,8 @@ TEST(XmlElementNull, NavigationPastTheEndGivesNullNodes)
 
 TEST(XmlElement, FirstAndNextSkipTextCDATAAndCommentsInDocumentOrder)
 {
-    Parsed doc(
-        "<root>lead text<!-- a comment --><![CDATA[<x/>]]><a/>between<b><inner/></b>"
-        "<!-- another --><![CDATA[more]]><c/>tail</root>");
+    Parsed doc("<root>lead text<!-- a comment --><![CDATA[<x/>]]><a/>between<b><inner/></b>"
+               "<!-- another --><![CDATA[more]]><c/>tail</root>");
     EXPECT_EQ((std::vector<std::string>{"a", "b", "c"}), WalkedNames(doc.Root()));
     EXPECT_EQ(ListedNames(*doc.RootNode()), WalkedNames(doc.Root()));
 }
@@ -208,9 +207,8 @@ TEST(XmlElement, NodesObtainedByValueReadTheSameElementAsThePointersOfGetChildre
 
 TEST(XmlElement, NamedVariantsReturnOnlyElementsOfExactlyThatName)
 {
-    Parsed doc(
-        "<root>a<![CDATA[a]]><A id=\"upper\"/><a id=\"1\"/><ab id=\"ab\"/><b id=\"b\"/>"
-        "<a id=\"2\"><a id=\"nested\"/></a>text<a id=\"3\"/><b id=\"b2\"/></root>");
+    Parsed doc("<root>a<![CDATA[a]]><A id=\"upper\"/><a id=\"1\"/><ab id=\"ab\"/><b id=\"b\"/>"
+               "<a id=\"2\"><a id=\"nested\"/></a>text<a id=\"3\"/><b id=\"b2\"/></root>");
     XmlElement root = doc.Root();
     std::vector<std::string> ids;
     for (XmlElement a = root.FirstChildElement("a"); a; a = a.NextSiblingElement("a")) {
@@ -260,10 +258,9 @@ TEST(XmlElement, GetOnlyChildWithThreeOfTheNameIsNull)
 
 TEST(XmlElementAttributes, GetAttributeTextGivesTheDocumentsUTF8TextOrNull)
 {
-    Parsed doc(
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
-        "<root plain=\"value\" empty=\"\" accented=\"caf\xC3\xA9\" face=\"\xF0\x9F\x98\x80\" "
-        "escaped=\"a&amp;b&lt;c&quot;\"/>");
+    Parsed doc("<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+               "<root plain=\"value\" empty=\"\" accented=\"caf\xC3\xA9\" face=\"\xF0\x9F\x98\x80\" "
+               "escaped=\"a&amp;b&lt;c&quot;\"/>");
     XmlElement root = doc.Root();
     EXPECT_STREQ("value", root.GetAttributeText("plain"));
     ASSERT_NE(nullptr, root.GetAttributeText("empty"));

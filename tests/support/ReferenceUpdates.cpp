@@ -61,8 +61,7 @@ QRMSoftwareBundle* ApplicableBundle(QRMKitAPI& api, QRMBundleTypeEnum bundleType
     return nullptr;
 }
 
-Matcher::Matcher(QRMKitAPI& api, const QRMSoftwareBundle& bundle,
-                 const std::vector<QRMSoftwareComponent*>& components)
+Matcher::Matcher(QRMKitAPI& api, const QRMSoftwareBundle& bundle, const std::vector<QRMSoftwareComponent*>& components)
     : mAPI(api)
 {
     std::vector<QRMBundleContent> packages;

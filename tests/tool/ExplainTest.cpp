@@ -19,9 +19,9 @@ using Json = nlohmann::json;
 
 // A catalog package for the documents the tests build.
 struct Package {
-    std::string path;     // "DIR/NAME.EXE"; the bundle lists NAME.EXE
+    std::string path;  // "DIR/NAME.EXE"; the bundle lists NAME.EXE
     std::string version;
-    std::string type;     // "FRMW", "DRVR", ...
+    std::string type;  // "FRMW", "DRVR", ...
     // Supported devices: a component id, or (with component id 0) PCI
     // entries "VEND:DEVI:SUBV:SUBD".
     std::vector<std::pair<unsigned, std::vector<std::string>>> devices;
@@ -62,8 +62,8 @@ std::string CatalogXml(const std::vector<Package>& packages, const std::vector<s
                           "<Model systemID=\"0A6B\">" + Display("S740") +
                           "</Model></Brand></TargetSystems><TargetOSes><OperatingSystem osCode=\"W22\" "
                           "osVendor=\"Example\">" +
-                          Display("Windows") + "</OperatingSystem></TargetOSes><RevisionHistory>" +
-                          Display("First") + "</RevisionHistory><ImportantInfo URL=\"https://example.com\"/><Contents>";
+                          Display("Windows") + "</OperatingSystem></TargetOSes><RevisionHistory>" + Display("First") +
+                          "</RevisionHistory><ImportantInfo URL=\"https://example.com\"/><Contents>";
         for (const std::string& file : files) {
             xml += "<Package path=\"" + file + "\" packageID=\"ID-" + file + "\"/>";
         }
@@ -76,12 +76,14 @@ std::string CatalogXml(const std::vector<Package>& packages, const std::vector<s
     for (const Package& package : packages) {
         ++number;
         xml += "<SoftwareComponent schemaVersion=\"2.0\" releaseID=\"REL" + std::to_string(number) +
-               "\" dateTime=\"1\" vendorVersion=\"" + package.version + "\" releaseDate=\"1\" hashMD5=\"0\" "
-               "tolvarVersion=\"" + package.version + "\" packageID=\"PKG" + std::to_string(number) +
-               "\" packageType=\"LWXP\" path=\"" + package.path + "\"><Name>" +
-               Display("Package " + std::to_string(number)) + "</Name><ComponentType value=\"" + package.type +
-               "\">" + Display(package.type) + "</ComponentType><Description>" + Display("A package") +
-               "</Description><Category value=\"NI\">" + Display("Network") + "</Category><SupportedDevices>";
+               "\" dateTime=\"1\" vendorVersion=\"" + package.version +
+               "\" releaseDate=\"1\" hashMD5=\"0\" "
+               "tolvarVersion=\"" +
+               package.version + "\" packageID=\"PKG" + std::to_string(number) + "\" packageType=\"LWXP\" path=\"" +
+               package.path + "\"><Name>" + Display("Package " + std::to_string(number)) +
+               "</Name><ComponentType value=\"" + package.type + "\">" + Display(package.type) +
+               "</ComponentType><Description>" + Display("A package") + "</Description><Category value=\"NI\">" +
+               Display("Network") + "</Category><SupportedDevices>";
         for (const auto& device : package.devices) {
             xml += "<Device componentID=\"" + std::to_string(device.first) + "\" embedded=\"0\">";
             for (const std::string& pci : device.second) {
@@ -133,8 +135,8 @@ protected:
     {
         WriteFile(Path("catalog.xml"), CatalogXml(packages, listed));
         WriteFile(Path("inventory.xml"), InventoryXml(machines));
-        std::vector<std::string> args = {"explain", "--catalog", Path("catalog.xml"), "--inventory",
-                                         Path("inventory.xml"), "--json"};
+        std::vector<std::string> args = {"explain",     "--catalog",           Path("catalog.xml"),
+                                         "--inventory", Path("inventory.xml"), "--json"};
         args.insert(args.end(), extra.begin(), extra.end());
         Result result = Run(args);
         EXPECT_EQ(result.status, 0) << result.out << result.err;
@@ -289,7 +291,8 @@ void Generate(std::mt19937& random, std::vector<Package>& packages, std::vector<
     const std::vector<std::string> names = {"A.EXE", "B.EXE", "C.EXE", "D.EXE", "E.EXE", "F.EXE"};
     const std::size_t count = 4 + random() % 10;
     for (std::size_t i = 0; i < count; ++i) {
-        Package package{pick(std::vector<std::string>{"X/", "Y/Z/", ""}) + pick(names), pick(versions), pick(types), {}};
+        Package package{
+            pick(std::vector<std::string>{"X/", "Y/Z/", ""}) + pick(names), pick(versions), pick(types), {}};
         const std::size_t devices = 1 + random() % 2;
         for (std::size_t d = 0; d < devices; ++d) {
             if (random() % 2 == 0) {
@@ -323,8 +326,8 @@ void Generate(std::mt19937& random, std::vector<Package>& packages, std::vector<
         }
         const std::size_t apps = 1 + random() % 2;
         for (std::size_t a = 0; a < apps; ++a) {
-            machine.applications.push_back({pick(std::vector<std::string>{"FRMW", "DRVR", "APP", "BIOS"}),
-                                            pick(versions)});
+            machine.applications.push_back(
+                {pick(std::vector<std::string>{"FRMW", "DRVR", "APP", "BIOS"}), pick(versions)});
         }
         machines.push_back(machine);
     }
@@ -348,10 +351,9 @@ TEST_F(ExplainTest, UpdateExactlyWhenUpdatesGivesAPackageAndTheSamePackageOnGene
         if (updates.status == 0) {
             const Json document = Json::parse(updates.out);
             for (const Json& update : document["updates"]) {
-                expected.push_back(update["device"].get<std::string>() + " / " +
-                                   update["application"].get<std::string>() + " -> " +
-                                   update["path"].get<std::string>() + " " +
-                                   update["available_version"].get<std::string>());
+                expected.push_back(
+                    update["device"].get<std::string>() + " / " + update["application"].get<std::string>() + " -> " +
+                    update["path"].get<std::string>() + " " + update["available_version"].get<std::string>());
             }
         } else {
             ASSERT_EQ(updates.status, 4) << updates.out;

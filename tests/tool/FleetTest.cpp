@@ -47,9 +47,9 @@ const std::vector<std::string> kDevices = {
 };
 const std::string kUnknownDevice =
     R"(<Device vendorID="ABCD" deviceID="%1" subVendorID="1028" subDeviceID="0001" display="Unlisted device %1"><Application componentType="DRVR" version="%2" display="Unlisted driver"/></Device>)";
-const std::vector<std::string> kVersions = {"1.0.0",  "2.3.9",  "2.4.1",  "22.0.9",  "22.5.7", "21.85.0",
-                                            "7.10.30", "1.13.2", "9. 15 .1", "5.1.4", "99.99.99", "0.0.1",
-                                            "",        "abc",    "1.2.3.4.5", "3.2.7", "52.22.0"};
+const std::vector<std::string> kVersions = {"1.0.0",   "2.3.9",  "2.4.1",     "22.0.9", "22.5.7",   "21.85.0",
+                                            "7.10.30", "1.13.2", "9. 15 .1",  "5.1.4",  "99.99.99", "0.0.1",
+                                            "",        "abc",    "1.2.3.4.5", "3.2.7",  "52.22.0"};
 
 std::string Fill(std::string text, const std::string& first, const std::string& second)
 {
@@ -72,10 +72,14 @@ std::string GeneratedInventory(unsigned number)
     const unsigned kind = number % 13;
     if (kind == 5) {
         switch (number % 4) {
-        case 0: return "";
-        case 1: return "this is not an inventory\n";
-        case 2: return "<?xml version=\"1.0\"?>\n<SVMInventory lang=\"en\"><Device componentID=\"159\"";
-        default: return "<?xml version=\"1.0\"?>\n<SVMInventory schemaVersion=\"1.0\"></SVMInventory>\n";
+        case 0:
+            return "";
+        case 1:
+            return "this is not an inventory\n";
+        case 2:
+            return "<?xml version=\"1.0\"?>\n<SVMInventory lang=\"en\"><Device componentID=\"159\"";
+        default:
+            return "<?xml version=\"1.0\"?>\n<SVMInventory schemaVersion=\"1.0\"></SVMInventory>\n";
         }
     }
     const std::vector<std::string> systems = {"0A6B", "0A6B", "0A6C", "0B12", "0FFF", "1234"};
@@ -153,13 +157,13 @@ protected:
     // Checks that every fleet line is exactly what `updates --json` says of
     // that inventory alone: the same document, or, where updates fails, an
     // error with the same code and message.
-    void ExpectSameAsUpdatesAlone(const std::vector<Json>& lines, const std::string& bundleType,
-                                  std::size_t& evaluated, std::size_t& failed)
+    void ExpectSameAsUpdatesAlone(const std::vector<Json>& lines, const std::string& bundleType, std::size_t& evaluated,
+                                  std::size_t& failed)
     {
         for (const Json& line : lines) {
             const std::string inventory = line["inventory"];
-            Result alone =
-                Run({"updates", "--catalog", kCatalog, "--inventory", inventory, "--bundle-type", bundleType, "--json"});
+            Result alone = Run(
+                {"updates", "--catalog", kCatalog, "--inventory", inventory, "--bundle-type", bundleType, "--json"});
             if (alone.status == 0) {
                 ++evaluated;
                 EXPECT_FALSE(line.contains("error")) << line.dump();
@@ -184,11 +188,11 @@ protected:
     std::string BrowserDom(const std::string& page, const std::string& fragment = "")
     {
         const std::string domPath = Path("dom.html");
-        const std::string command = "timeout 120 chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run "
-                                    "--disable-background-networking --disable-component-update --disable-sync "
-                                    "--user-data-dir=" +
-                                    Path("profile") + " --dump-dom 'file://" + page + fragment + "' > " + domPath +
-                                    " 2>/dev/null";
+        const std::string command =
+            "timeout 120 chromium --headless --no-sandbox --disable-gpu --disable-quic --no-first-run "
+            "--disable-background-networking --disable-component-update --disable-sync "
+            "--user-data-dir=" +
+            Path("profile") + " --dump-dom 'file://" + page + fragment + "' > " + domPath + " 2>/dev/null";
         EXPECT_EQ(std::system(command.c_str()), 0) << command;
         return ReadFile(domPath);
     }
@@ -231,8 +235,7 @@ protected:
     // The children of a process, from /proc.
     static std::vector<pid_t> Children(pid_t pid)
     {
-        std::istringstream in(ReadFile("/proc/" + std::to_string(pid) + "/task/" + std::to_string(pid) +
-                                       "/children"));
+        std::istringstream in(ReadFile("/proc/" + std::to_string(pid) + "/task/" + std::to_string(pid) + "/children"));
         std::vector<pid_t> children;
         for (pid_t child; in >> child;) {
             children.push_back(child);
@@ -346,8 +349,8 @@ TEST_F(FleetTest, ADirectoryMeansItsXmlFilesSortedByNameAndArgumentsKeepTheirOrd
     for (const Json& line : ParseLines(fleet.out)) {
         order.push_back(line["inventory"]);
     }
-    EXPECT_EQ(order, (std::vector<std::string>{single, dir + "/C.xml", dir + "/a.xml", dir + "/b.xml",
-                                               dir + "/C.xml", dir + "/a.xml", dir + "/b.xml"}));
+    EXPECT_EQ(order, (std::vector<std::string>{single, dir + "/C.xml", dir + "/a.xml", dir + "/b.xml", dir + "/C.xml",
+                                               dir + "/a.xml", dir + "/b.xml"}));
 }
 
 TEST_F(FleetTest, AMissingInventoryIsThatInventorysErrorAndTheRunGoesOn)
@@ -356,10 +359,10 @@ TEST_F(FleetTest, AMissingInventoryIsThatInventorysErrorAndTheRunGoesOn)
     EXPECT_EQ(fleet.status, 3);
     std::vector<Json> lines = ParseLines(fleet.out);
     ASSERT_EQ(lines.size(), 2U);
-    EXPECT_EQ(lines[0],
-              Json::parse(R"({"inventory": ")" + Path("missing.xml") + R"(", "schema_version": 1,
+    EXPECT_EQ(lines[0], Json::parse(R"({"inventory": ")" + Path("missing.xml") + R"(", "schema_version": 1,
                   "error": {"code": "file-missing",
-                  "message": ")" + Path("missing.xml") + R"(: the file does not exist"}})"));
+                  "message": ")" + Path("missing.xml") +
+                                    R"(: the file does not exist"}})"));
     EXPECT_EQ(lines[1]["summary"]["updates"], 10);
 }
 
@@ -497,8 +500,8 @@ TEST_F(FleetTest, TableHasOneLinePerComputerThenTotals)
     const std::string other = Variant(kInventory, "other.xml", "systemID=\"0A6B\"", "systemID=\"0FFF\"");
     Result result = Run({"fleet", "--catalog", kCatalog, "--format", "table", kInventory, other, kInventory});
     EXPECT_EQ(result.status, 3);
-    EXPECT_FALSE(LineWith(result.out, {"SYSTEM", "INVENTORY", "NEWER", "SAME", "OLDER", "UNKNOWN", "HIGHEST CRIT"})
-                     .empty())
+    EXPECT_FALSE(
+        LineWith(result.out, {"SYSTEM", "INVENTORY", "NEWER", "SAME", "OLDER", "UNKNOWN", "HIGHEST CRIT"}).empty())
         << result.out;
     // The example: 7 newer (the highest criticality among them 3), 2 same,
     // 1 older, 0 unknown.
@@ -568,8 +571,9 @@ TEST_F(FleetTest, HelpGivesTheExitStatuses)
     }
     Result fleetHelp = Run({"fleet", "--help"});
     EXPECT_EQ(fleetHelp.status, 0);
-    for (const char* text : {"  0    every inventory evaluated", "  64   bad usage", "  2    the catalog cannot be read",
-                             "  3    at least one inventory failed", "  100  with --check"}) {
+    for (const char* text :
+         {"  0    every inventory evaluated", "  64   bad usage", "  2    the catalog cannot be read",
+          "  3    at least one inventory failed", "  100  with --check"}) {
         EXPECT_TRUE(Contains(fleetHelp.out, text)) << text;
     }
 }
@@ -579,8 +583,8 @@ TEST_F(FleetTest, HelpGivesTheExitStatuses)
 TEST_F(FleetTest, HtmlReportShowsComputersAndPendingPackagesInABrowser)
 {
     const std::string other = Variant(kInventory, "other.xml", "systemID=\"0A6B\"", "systemID=\"0FFF\"");
-    const std::string tricky = Variant(kInventory, "tricky.xml", "display=\"Update agent\"/>",
-                                       "display=\"&lt;/script&gt;&lt;b&gt;agent\"/>");
+    const std::string tricky =
+        Variant(kInventory, "tricky.xml", "display=\"Update agent\"/>", "display=\"&lt;/script&gt;&lt;b&gt;agent\"/>");
     const std::string report = Path("report.html");
     Result result =
         Run({"fleet", "--catalog", kCatalog, "--format", "html", "--output", report, kInventory, other, tricky});

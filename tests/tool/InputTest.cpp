@@ -14,9 +14,9 @@
 #include <sys/stat.h>
 
 #include <cstdint>
-#include <map>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -68,7 +68,10 @@ std::string Pack(const std::string& format, const std::string& filter,
     return std::string(buffer.data(), used);
 }
 
-std::string Compress(const std::string& filter, const std::string& text) { return Pack("raw", filter, {{"data", text}}); }
+std::string Compress(const std::string& filter, const std::string& text)
+{
+    return Pack("raw", filter, {{"data", text}});
+}
 
 void Put16(std::string& out, std::uint16_t value)
 {
@@ -166,10 +169,7 @@ protected:
         return document;
     }
 
-    Json Plain()
-    {
-        return Answer(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--json"}));
-    }
+    Json Plain() { return Answer(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--json"})); }
 
     // The tool run by bash with `script` (in which $TOOL names it); output
     // in files as for Run.
@@ -379,8 +379,7 @@ TEST_F(InputTest, SwappedDocumentsAreRefusedByTheirRootElement)
     ExpectFailure(Run({"inventory", "--inventory", kCatalog}),
                   {kCatalog + ": this looks like a catalog, not an inventory (its root element is Manifest); did "
                               "you swap --catalog and --inventory?"});
-    ExpectJsonError(Run({"catalog", "--catalog", kInventory, "--json"}), "not-a-catalog", kInventory,
-                    "did you swap");
+    ExpectJsonError(Run({"catalog", "--catalog", kInventory, "--json"}), "not-a-catalog", kInventory, "did you swap");
 
     // Comments, a declaration and a document type before the root do not hide it.
     const std::string wrapped = Path("wrapped.xml");

@@ -29,8 +29,7 @@ TEST_F(ToolTest, UpdatesTableListsEveryApplicationWithAnUpdate)
     EXPECT_FALSE(LineWith(result.out, {"BIOS", "2.3.9", "2.4.1", "newer"}).empty()) << result.out;
     EXPECT_FALSE(LineWith(result.out, {"1GbE adapter firmware", "21.85.0", "21.81.3", "older"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"Remote access controller firmware", "7.10.30", "same"}).empty());
-    EXPECT_FALSE(
-        LineWith(result.out, {"updates.example.com/catalog/FOLDER01/BIOS/BIOS_S740_2.4.1.EXE"}).empty());
+    EXPECT_FALSE(LineWith(result.out, {"updates.example.com/catalog/FOLDER01/BIOS/BIOS_S740_2.4.1.EXE"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"S740W64.00041", "BTW64", "auto"}).empty());
     EXPECT_FALSE(LineWith(result.out, {"10 updates"}).empty());
     EXPECT_FALSE(Contains(result.out, "Boot storage driver"));
@@ -48,14 +47,13 @@ TEST_F(ToolTest, UpdatesTableFitsTheTerminalWidth)
 
 TEST_F(ToolTest, ColumnsOverridesTheTerminalWidth)
 {
-    Result result =
-        RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", kInventory}, 120, {"COLUMNS=80"});
+    Result result = RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", kInventory}, 120, {"COLUMNS=80"});
     ASSERT_EQ(result.status, 0);
     ExpectFits(result.out, 80);
     EXPECT_TRUE(Contains(result.out, "\xE2\x80\xA6")) << "80 columns cut the package lines: " << result.out;
 
-    Result ignored = RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", kInventory}, 120,
-                                   {"COLUMNS=wide"});
+    Result ignored =
+        RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", kInventory}, 120, {"COLUMNS=wide"});
     ExpectFits(ignored.out, 120);
     EXPECT_GT(Widest(ignored.out), 80U) << "a COLUMNS that is no number is ignored";
 }
@@ -113,8 +111,7 @@ TEST_F(ToolTest, UpdatesTableCutsLongTextsWithAnEllipsis)
     Result result = RunOnTerminal({"updates", "--catalog", kCatalog, "--inventory", inventory});
     ASSERT_EQ(result.status, 0) << result.out;
     ExpectFits(result.out);
-    EXPECT_FALSE(LineWith(result.out, {"Update agent with", "\xE2\x80\xA6", "5.1.4", "5.2.0"}).empty())
-        << result.out;
+    EXPECT_FALSE(LineWith(result.out, {"Update agent with", "\xE2\x80\xA6", "5.1.4", "5.2.0"}).empty()) << result.out;
 }
 
 TEST_F(ToolTest, UpdatesJsonHasEveryField)
@@ -186,8 +183,7 @@ TEST_F(ToolTest, UpdatesFromTheLinuxBundle)
 
 TEST_F(ToolTest, UpdatesWithoutAnApplicableBundleOfTheRequestedType)
 {
-    Result result =
-        Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTRPM"});
+    Result result = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTRPM"});
     ExpectFailure(result, {"BTRPM", "0A6B"}, 4);
 }
 
@@ -275,8 +271,7 @@ TEST_F(ToolTest, CatalogJson)
     ASSERT_EQ(document["inventory_collectors"].size(), 2U);
     EXPECT_EQ(document["inventory_collectors"][0]["os_code"], "W22");
     EXPECT_EQ(document["inventory_collectors"][0]["path"], "collectors/invcol_w64.exe");
-    EXPECT_EQ(document["inventory_collectors"][0]["location"],
-              "updates.example.com/catalog/collectors/invcol_w64.exe");
+    EXPECT_EQ(document["inventory_collectors"][0]["location"], "updates.example.com/catalog/collectors/invcol_w64.exe");
 }
 
 // ---------------------------------------------------------------- inventory
@@ -548,8 +543,7 @@ TEST_F(ToolTest, HelpForEveryCommand)
     Result top = Run({"--help"});
     EXPECT_EQ(top.status, 0);
     EXPECT_TRUE(Contains(top.out, "Example"));
-    for (const char* command :
-         {"updates", "bundle", "catalog", "inventory", "categories", "collector", "compare"}) {
+    for (const char* command : {"updates", "bundle", "catalog", "inventory", "categories", "collector", "compare"}) {
         Result result = Run({command, "--help"});
         EXPECT_EQ(result.status, 0) << command;
         EXPECT_TRUE(Contains(result.out, "Example")) << command;
@@ -561,7 +555,8 @@ TEST_F(ToolTest, VersionNamesTheToolAndTheLibraryItRunsWith)
 {
     Result result = Run({"--version"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.out, std::string("qrmkit ") + QRMKIT_PROJECT_VERSION + "\nlibqrmkit " + QRMKIT_PROJECT_VERSION + "\n");
+    EXPECT_EQ(result.out,
+              std::string("qrmkit ") + QRMKIT_PROJECT_VERSION + "\nlibqrmkit " + QRMKIT_PROJECT_VERSION + "\n");
     EXPECT_EQ(result.err, "");
 }
 
@@ -625,17 +620,17 @@ TEST_F(ToolTest, JsonFailureSaysWhatIsWrongWithWhichFile)
     EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", garbage, "--json"}), 2, "not-xml")["error"]["file"],
               garbage);
     const std::string noLanguage = Variant(kInventory, "no-lang.xml", "lang=\"en\" schemaVersion", "schemaVersion");
-    EXPECT_EQ(
-        ExpectJsonError(Run({"inventory", "--inventory", noLanguage, "--json"}), 2, "not-an-inventory")["error"]["file"],
-        noLanguage);
+    EXPECT_EQ(ExpectJsonError(Run({"inventory", "--inventory", noLanguage, "--json"}), 2,
+                              "not-an-inventory")["error"]["file"],
+              noLanguage);
     const std::string noContents = Variant(kCatalog, "no-contents.xml", "<Contents>", "<Other>");
     const std::string catalog = Replace(ReadFile(noContents), "</Contents>", "</Other>");
     WriteFile(noContents, catalog);
     EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", noContents, "--json"}), 2, "not-a-catalog")["error"]["file"],
               noContents);
     EXPECT_EQ(ExpectJsonError(Run({"catalog", "--catalog", mDir, "--json"}), 2, "not-a-file")["error"]["file"], mDir);
-    EXPECT_TRUE(
-        ExpectJsonError(Run({"compare", "1.\xC3\xA9", "1.0", "--json"}), 2, "not-comparable")["error"]["file"].is_null());
+    EXPECT_TRUE(ExpectJsonError(Run({"compare", "1.\xC3\xA9", "1.0", "--json"}), 2, "not-comparable")["error"]["file"]
+                    .is_null());
     ExpectJsonError(Run({"collector", "--catalog", kCatalog, "--os-code", "XX", "--json"}), 2, "unknown-os-code");
 }
 
@@ -643,8 +638,9 @@ TEST_F(ToolTest, JsonUsageErrorsAreJsonWithStatus64)
 {
     nlohmann::json missing = ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--json"}), 64, "usage");
     EXPECT_TRUE(Contains(missing["error"]["message"], "--inventory")) << missing.dump();
-    ExpectJsonError(Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTXX", "--json"}),
-                    64, "usage");
+    ExpectJsonError(
+        Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--bundle-type", "BTXX", "--json"}), 64,
+        "usage");
     ExpectJsonError(Run({"compare", "1.0", "--json"}), 64, "usage");
     // Without --json the same mistakes stay text on standard error.
     Result text = Run({"updates", "--catalog", kCatalog});
@@ -658,7 +654,8 @@ TEST_F(ToolTest, CompareAndCollectorSpeakJson)
     Result compare = Run({"compare", "1.2.10", "1.2.9", "--json"});
     ASSERT_EQ(compare.status, 0) << compare.err;
     EXPECT_EQ(nlohmann::json::parse(compare.out),
-              nlohmann::json::parse(R"({"schema_version": 1, "first": "1.2.10", "second": "1.2.9", "order": 1, "relation": ">"})"));
+              nlohmann::json::parse(
+                  R"({"schema_version": 1, "first": "1.2.10", "second": "1.2.9", "order": 1, "relation": ">"})"));
     EXPECT_EQ(nlohmann::json::parse(Run({"compare", "1.0", "1.0.0", "--json"}).out)["order"], -1);
     EXPECT_EQ(nlohmann::json::parse(Run({"compare", "01.2", "1.2", "--json"}).out)["relation"], "=");
 
@@ -701,8 +698,8 @@ TEST_F(ToolTest, UpdatesOnlyKeepsTheRowsOfTheGivenStatuses)
     EXPECT_EQ(document["only"], nlohmann::json::parse(R"(["older"])"));
     EXPECT_EQ(document["summary"]["updates"], 10) << "the summary counts every update";
 
-    Result two = Run({"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "same", "--only", "older",
-                      "--json"});
+    Result two = Run(
+        {"updates", "--catalog", kCatalog, "--inventory", kInventory, "--only", "same", "--only", "older", "--json"});
     nlohmann::json both = nlohmann::json::parse(two.out);
     ASSERT_EQ(both["updates"].size(), 3U);
     for (const auto& update : both["updates"]) {
@@ -766,14 +763,16 @@ TEST_F(ToolTest, EveryJsonDocumentNamesItsSchemaVersionFirst)
         {"fleet", "--catalog", Path("absent.xml"), "--format", "jsonl", kInventory}};
     for (const std::vector<std::string>& command : commands) {
         Result result = Run(command);
-        std::vector<std::string> lines = command[0] == "fleet" ? Lines(result.out) : std::vector<std::string>{result.out};
+        std::vector<std::string> lines =
+            command[0] == "fleet" ? Lines(result.out) : std::vector<std::string>{result.out};
         ASSERT_FALSE(lines.empty()) << command[0];
         for (const std::string& line : lines) {
             nlohmann::ordered_json document = nlohmann::ordered_json::parse(line);
             ASSERT_TRUE(document.contains("schema_version")) << line;
             EXPECT_EQ(document["schema_version"], 1) << line;
             // First, or right after the inventory a fleet line is about.
-            auto key = document.begin().key() == "inventory" ? std::next(document.begin()).key() : document.begin().key();
+            auto key =
+                document.begin().key() == "inventory" ? std::next(document.begin()).key() : document.begin().key();
             EXPECT_EQ(key, "schema_version") << line;
         }
     }

@@ -22,7 +22,6 @@
 
 namespace tooltest {
 
-
 inline const std::string kTool = QRMKIT_TOOL;
 inline const std::string kExamples = QRMKIT_EXAMPLES_DIR;
 inline const std::string kCatalog = kExamples + "/catalog.xml";

@@ -193,8 +193,8 @@ Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, c
     QRMKitReturnCode code = api->GetApplicableUpdates(updates, InventoryArchitecture(), type);
     if (code != QRM_KIT_SUCCESS) {
         throw ToolError("evaluation-failed",
-                        inventory + ": the applicable updates could not be determined (" +
-                            QRMKitReturnCodeName(code) + ")",
+                        inventory + ": the applicable updates could not be determined (" + QRMKitReturnCodeName(code) +
+                            ")",
                         inventory);
     }
     std::vector<QRMIDevice*> devices;
@@ -248,11 +248,9 @@ std::string RenderUpdates(const Json& document, const Style& style)
                        Text(document["catalog_release"]) + " (" + Text(document["catalog"]) + ")"),
                style.width) +
            "\n";
-    std::string how = Text(bundle["selection"]) == "auto"
-                          ? " (auto: the first bundle type that applies to this system)"
-                          : " (as requested)";
-    out += Fit(OneLine("Bundle " + Text(bundle["id"]) + ", type " + Text(bundle["type"]) + how), style.width) +
-           "\n\n";
+    std::string how = Text(bundle["selection"]) == "auto" ? " (auto: the first bundle type that applies to this system)"
+                                                          : " (as requested)";
+    out += Fit(OneLine("Bundle " + Text(bundle["id"]) + ", type " + Text(bundle["type"]) + how), style.width) + "\n\n";
 
     Table table({{"DEVICE / APPLICATION", true, 12},
                  {"INSTALLED", true, 9},
@@ -264,9 +262,9 @@ std::string RenderUpdates(const Json& document, const Style& style)
                 2);
     for (const Json& update : document["updates"]) {
         table.AddGroup(Text(update["device"]));
-        table.AddRow({Text(update["application"]), Text(update["installed_version"]),
-                      Text(update["available_version"]), Text(update["status"]), Text(update["component_type"]),
-                      Text(update["criticality"]), Text(update["category"]["text"])});
+        table.AddRow({Text(update["application"]), Text(update["installed_version"]), Text(update["available_version"]),
+                      Text(update["status"]), Text(update["component_type"]), Text(update["criticality"]),
+                      Text(update["category"]["text"])});
         table.AddLine("package " + Text(update["location"]) + " (release " + Text(update["release_id"]) + ")", 4);
     }
     out += table.Render(style);
@@ -280,18 +278,18 @@ std::string RenderUpdates(const Json& document, const Style& style)
                    style.width) +
                "\n";
     }
-    out += Fit(Plural(count, "update", "updates") + " for " +
-                   Plural(summary["applications"].get<std::size_t>(), "installed application",
-                          "installed applications") +
-                   ": " + Text(summary["newer"]) + " newer, " + Text(summary["same"]) + " same, " +
-                   Text(summary["older"]) + " older, " + Text(summary["unknown"]) + " unknown; " +
-                   Text(summary["without_update"]) + " without an update.",
-               style.width) +
-           "\n";
+    out +=
+        Fit(Plural(count, "update", "updates") + " for " +
+                Plural(summary["applications"].get<std::size_t>(), "installed application", "installed applications") +
+                ": " + Text(summary["newer"]) + " newer, " + Text(summary["same"]) + " same, " +
+                Text(summary["older"]) + " older, " + Text(summary["unknown"]) + " unknown; " +
+                Text(summary["without_update"]) + " without an update.",
+            style.width) +
+        "\n";
     if (count > 0) {
-        out += Fit("STATUS compares the available version with the installed one; CRIT is the criticality.",
-                   style.width) +
-               "\n";
+        out +=
+            Fit("STATUS compares the available version with the installed one; CRIT is the criticality.", style.width) +
+            "\n";
     }
     return out;
 }
@@ -440,17 +438,17 @@ std::string RenderCatalog(const Json& document, const Style& style)
                                  {"date", Text(document["date_time"])}},
                                 style);
     out += "\n" + CountTable("BUNDLE TYPE", document["bundles"]["by_type"], document["bundles"]["total"], style);
-    out += "\n" + CountTable("COMPONENT TYPE", document["components"]["by_type"], document["components"]["total"], style);
-    out += "\n" + CountTable("CRITICALITY", document["components"]["by_criticality"],
-                             document["components"]["total"], style);
+    out +=
+        "\n" + CountTable("COMPONENT TYPE", document["components"]["by_type"], document["components"]["total"], style);
+    out += "\n" +
+           CountTable("CRITICALITY", document["components"]["by_criticality"], document["components"]["total"], style);
     out += "\n";
     if (document["inventory_collectors"].empty()) {
         out += "No inventory collectors.\n";
     } else {
         Table table({{"OS CODE", true, 8}, {"VERSION", true, 8}, {"COLLECTOR LOCATION", true, 20, true}});
         for (const Json& collector : document["inventory_collectors"]) {
-            table.AddRow({Text(collector["os_code"]), Text(collector["vendor_version"]),
-                          Text(collector["location"])});
+            table.AddRow({Text(collector["os_code"]), Text(collector["vendor_version"]), Text(collector["location"])});
         }
         out += table.Render(style);
     }
@@ -576,16 +574,15 @@ std::string RenderInventory(const Json& document, const Style& style)
     Table devices({{"DEVICE / APPLICATION", true, 16}, {"TYPE"}, {"VERSION", true, 9}, {"IDENTITY", true, 16}});
     for (const Json& device : document["devices"]) {
         const Json& pci = device["pci"];
-        std::string identity =
-            device["component_id"].get<unsigned long long>() != 0
-                ? "component " + Text(device["component_id"])
-                : "PCI " + Text(pci["vendor_id"]) + ":" + Text(pci["device_id"]) + " " + Text(pci["sub_vendor_id"]) +
-                      ":" + Text(pci["sub_device_id"]) + " at " + Text(pci["bus"]) + ":" + Text(pci["device"]) +
-                      "." + Text(pci["function"]);
+        std::string identity = device["component_id"].get<unsigned long long>() != 0
+                                   ? "component " + Text(device["component_id"])
+                                   : "PCI " + Text(pci["vendor_id"]) + ":" + Text(pci["device_id"]) + " " +
+                                         Text(pci["sub_vendor_id"]) + ":" + Text(pci["sub_device_id"]) + " at " +
+                                         Text(pci["bus"]) + ":" + Text(pci["device"]) + "." + Text(pci["function"]);
         devices.AddRow({Text(device["display"]), "", "", identity});
         for (const Json& application : device["applications"]) {
-            devices.AddRow({"  " + Text(application["display"]), Text(application["type"]),
-                            Text(application["version"]), ""});
+            devices.AddRow(
+                {"  " + Text(application["display"]), Text(application["type"]), Text(application["version"]), ""});
         }
     }
     out += devices.Render(style);

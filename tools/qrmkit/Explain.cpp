@@ -20,7 +20,7 @@ namespace {
 // How many packages a "not-in-bundle" outcome names.
 constexpr std::size_t kNamedPackages = 3;
 
-const char* const kOutcomes[] = {"update",         "device-excluded", "no-bundle",      "no-supporting-package",
+const char* const kOutcomes[] = {"update",        "device-excluded", "no-bundle",      "no-supporting-package",
                                  "not-in-bundle", "type-mismatch",   "sub-id-mismatch"};
 
 // The file name a package path is listed under in a bundle: the text after
@@ -122,8 +122,7 @@ public:
                 Supporter supporter;
                 supporter.component = mComponents[index];
                 supporter.type = supporter.component->GetComponentType().GetValue();
-                supporter.inBundle =
-                    mListed.count(std::u16string(FileName(supporter.component->GetPathView()))) != 0;
+                supporter.inBundle = mListed.count(std::u16string(FileName(supporter.component->GetPathView()))) != 0;
                 supporters.push_back(std::move(supporter));
             }
             return supporters.back();
@@ -226,12 +225,11 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
     row["application"] = Utf8(application.GetDisplay());
     row["component_type"] = ComponentTypeWord(application.GetComponentType());
     row["installed_version"] = Utf8(application.GetVersion());
-    row["device_ids"] = ids.ByComponentID()
-                            ? Json{{"component_id", ids.componentID}}
-                            : Json{{"vendor_id", Hex(ids.vendor)},
-                                   {"device_id", Hex(ids.device)},
-                                   {"sub_vendor_id", Hex(ids.subVendor)},
-                                   {"sub_device_id", Hex(ids.subDevice)}};
+    row["device_ids"] = ids.ByComponentID() ? Json{{"component_id", ids.componentID}}
+                                            : Json{{"vendor_id", Hex(ids.vendor)},
+                                                   {"device_id", Hex(ids.device)},
+                                                   {"sub_vendor_id", Hex(ids.subVendor)},
+                                                   {"sub_device_id", Hex(ids.subDevice)}};
     // The outcome and its reason come first after the ids; they are set last.
     row["outcome"] = nullptr;
     row["reason"] = nullptr;
@@ -242,8 +240,8 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
     };
 
     if (ids.componentID == QRM_EXCLUDED_COMPONENT_ID) {
-        return outcome("device-excluded", "component id " + std::to_string(QRM_EXCLUDED_COMPONENT_ID) +
-                                              " never receives updates");
+        return outcome("device-excluded",
+                       "component id " + std::to_string(QRM_EXCLUDED_COMPONENT_ID) + " never receives updates");
     }
     if (choice.bundle == nullptr) {
         row["bundle_types"] = typesWithBundle;
@@ -300,9 +298,8 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
     }
     if (matching.empty()) {
         row["sub_ids"] = subIdsFound;
-        return outcome("sub-id-mismatch", "no entry has this device's sub-ids " +
-                                              Pci(ids.subVendor, ids.subDevice) + " or 0000:0000; the entries have " +
-                                              Join(row["sub_ids"]));
+        return outcome("sub-id-mismatch", "no entry has this device's sub-ids " + Pci(ids.subVendor, ids.subDevice) +
+                                              " or 0000:0000; the entries have " + Join(row["sub_ids"]));
     }
 
     const Supporter* chosen = explainer.Choose(matching);
@@ -367,10 +364,10 @@ Json CollectExplanation(const std::string& catalog, const std::string& inventory
         const DeviceIds ids = IdsOf(*device);
         const std::vector<Supporter> supporters =
             ids.componentID == QRM_EXCLUDED_COMPONENT_ID || choice.bundle == nullptr ? std::vector<Supporter>()
-                                                                                 : explainer.SupportersOf(ids);
+                                                                                     : explainer.SupportersOf(ids);
         for (const QRMIApplication* application : applications) {
-            Json row = Explain(*device, *application, ids, supporters, explainer, choice, bundleType, typesWithBundle,
-                               base);
+            Json row =
+                Explain(*device, *application, ids, supporters, explainer, choice, bundleType, typesWithBundle, base);
             ++counts[row["outcome"].get<std::string>()];
             rows.push_back(std::move(row));
         }
@@ -397,8 +394,8 @@ Json CollectExplanation(const std::string& catalog, const std::string& inventory
 std::string RenderExplanation(const Json& document, const Style& style)
 {
     std::string out = Fit(OneLine("Why each application of " + SystemPhrase(document["system_id"]) +
-                                  " gets an update or not, from catalog " + Text(document["catalog_release"]) +
-                                  " (" + Text(document["catalog"]) + ")"),
+                                  " gets an update or not, from catalog " + Text(document["catalog_release"]) + " (" +
+                                  Text(document["catalog"]) + ")"),
                           style.width) +
                       "\n";
     const Json& bundle = document["bundle"];
@@ -430,9 +427,8 @@ std::string RenderExplanation(const Json& document, const Style& style)
     }
     out += "\n";
     if (document.contains("only")) {
-        out += Fit("Showing only: " + Join(document["only"]) + " (" +
-                       std::to_string(document["applications"].size()) + " of " + Text(summary["applications"]) +
-                       " applications).",
+        out += Fit("Showing only: " + Join(document["only"]) + " (" + std::to_string(document["applications"].size()) +
+                       " of " + Text(summary["applications"]) + " applications).",
                    style.width) +
                "\n";
     }

@@ -104,15 +104,19 @@ std::string SignalName(int signal)
 // The result of a child that has ended with `status` after writing `data`.
 FleetResult Finish(const Child& child, int status, const FleetRun& run, const std::string& path)
 {
-    const bool whole = !child.data.empty() && child.data.back() == '\n' &&
-                       child.data.find('\n') == child.data.size() - 1;
+    const bool whole =
+        !child.data.empty() && child.data.back() == '\n' && child.data.find('\n') == child.data.size() - 1;
     if (WIFEXITED(status) && whole && !child.timedOut) {
         std::string line = child.data.substr(0, child.data.size() - 1);
         switch (WEXITSTATUS(status)) {
-        case kChildEvaluated: return {std::move(line), FleetOutcome::Evaluated};
-        case kChildNewer: return {std::move(line), FleetOutcome::EvaluatedWithNewer};
-        case kChildFailed: return {std::move(line), FleetOutcome::Failed};
-        default: break;
+        case kChildEvaluated:
+            return {std::move(line), FleetOutcome::Evaluated};
+        case kChildNewer:
+            return {std::move(line), FleetOutcome::EvaluatedWithNewer};
+        case kChildFailed:
+            return {std::move(line), FleetOutcome::Failed};
+        default:
+            break;
         }
     }
     std::string code = "process-died";
@@ -165,10 +169,9 @@ bool Start(const FleetInput& input, std::size_t index, const FleetRun& run, cons
     child.index = index;
     child.data.clear();
     child.timedOut = false;
-    child.deadline = run.timeoutSeconds > 0
-                         ? Clock::now() + std::chrono::duration_cast<Clock::duration>(
-                                              std::chrono::duration<double>(run.timeoutSeconds))
-                         : Clock::time_point::max();
+    child.deadline = run.timeoutSeconds > 0 ? Clock::now() + std::chrono::duration_cast<Clock::duration>(
+                                                                 std::chrono::duration<double>(run.timeoutSeconds))
+                                            : Clock::time_point::max();
     return true;
 }
 
@@ -241,8 +244,8 @@ std::vector<FleetInput> ListFleet(const std::vector<std::string>& arguments)
             }
         }
         if (error) {
-            inputs.push_back({argument, "not-readable",
-                              argument + ": the directory cannot be listed (" + error.message() + ")"});
+            inputs.push_back(
+                {argument, "not-readable", argument + ": the directory cannot be listed (" + error.message() + ")"});
             continue;
         }
         std::sort(names.begin(), names.end());

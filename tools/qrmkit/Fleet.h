@@ -45,10 +45,10 @@ struct FleetResult {
 };
 
 struct FleetRun {
-    std::string catalog;           // the path the documents name; the library has read it
+    std::string catalog;  // the path the documents name; the library has read it
     std::string bundleType = "auto";
-    unsigned jobs = 1;             // children at once
-    double timeoutSeconds = 0;     // per inventory; 0: no limit
+    unsigned jobs = 1;          // children at once
+    double timeoutSeconds = 0;  // per inventory; 0: no limit
 };
 
 // The number of processors this process may run on.

@@ -44,8 +44,8 @@ public:
     Style StyleFor(const std::string& color) const { return qrmtool::StyleFor(fileno(mFile), color); }
     void Write(const std::string& text)
     {
-        if (!mDiscard && mError == 0 && (std::fwrite(text.data(), 1, text.size(), mFile) != text.size() ||
-                            std::fflush(mFile) != 0)) {
+        if (!mDiscard && mError == 0 &&
+            (std::fwrite(text.data(), 1, text.size(), mFile) != text.size() || std::fflush(mFile) != 0)) {
             mError = errno != 0 ? errno : EIO;
         }
     }
@@ -127,9 +127,8 @@ int RunFleet(const FleetCommand& command)
     header.catalog = command.catalog;
     header.catalogRelease = Utf8(QRMKitAPI::Instance()->GetCatalogReleaseID());
     header.bundleType = command.bundleType;
-    std::unique_ptr<FleetReport> report =
-        MakeFleetReport(format, header, output.StyleFor(command.color),
-                        [&output](const std::string& text) { output.Write(text); });
+    std::unique_ptr<FleetReport> report = MakeFleetReport(format, header, output.StyleFor(command.color),
+                                                          [&output](const std::string& text) { output.Write(text); });
 
     FleetRun run;
     run.catalog = command.catalog;

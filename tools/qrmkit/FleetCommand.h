@@ -12,11 +12,11 @@ struct FleetCommand {
     std::string catalog;
     std::string bundleType = "auto";
     std::vector<std::string> inventories;
-    unsigned jobs = 0;         // 0: one per processor
-    unsigned shardIndex = 1;   // --shard K/N
+    unsigned jobs = 0;        // 0: one per processor
+    unsigned shardIndex = 1;  // --shard K/N
     unsigned shardCount = 1;
-    std::string format;        // "table", "jsonl", "html"; "": table on a terminal, jsonl otherwise
-    std::string output;        // "": standard output
+    std::string format;  // "table", "jsonl", "html"; "": table on a terminal, jsonl otherwise
+    std::string output;  // "": standard output
     bool check = false;
     double timeoutSeconds = 0;
     std::string color = "auto";  // --color: "auto", "always" or "never"

@@ -20,12 +20,23 @@ std::string Escape(const std::string& text)
     out.reserve(text.size());
     for (char c : text) {
         switch (c) {
-        case '&': out += "&amp;"; break;
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '"': out += "&quot;"; break;
-        case '\'': out += "&#39;"; break;
-        default: out += c;
+        case '&':
+            out += "&amp;";
+            break;
+        case '<':
+            out += "&lt;";
+            break;
+        case '>':
+            out += "&gt;";
+            break;
+        case '"':
+            out += "&quot;";
+            break;
+        case '\'':
+            out += "&#39;";
+            break;
+        default:
+            out += c;
         }
     }
     return out;
@@ -305,7 +316,7 @@ public:
 
         out += "<section class=\"totals\" id=\"totals\">\n";
         const std::vector<std::pair<std::string, std::size_t>> totals = {
-            {"computers", t.evaluated + t.failed}, {"evaluated", t.evaluated},   {"failed", t.failed},
+            {"computers", t.evaluated + t.failed}, {"evaluated", t.evaluated},    {"failed", t.failed},
             {"with pending updates", t.withNewer}, {"pending packages", t.newer}, {"same version", t.same},
             {"older in catalog", t.older},         {"unknown order", t.unknown}};
         for (const auto& total : totals) {
@@ -316,8 +327,8 @@ public:
 
         std::vector<Bar> criticality;
         const std::vector<std::pair<std::string, std::string>> levels = {
-            {"3", "#b3261e"}, {"2", "#e07b00"}, {"1", "#e8c200"}, {"unspecified", "#8a93a6"},
-            {"none", "#2e8b57"}, {"failed", "#4a4f5c"}};
+            {"3", "#b3261e"},           {"2", "#e07b00"},    {"1", "#e8c200"},
+            {"unspecified", "#8a93a6"}, {"none", "#2e8b57"}, {"failed", "#4a4f5c"}};
         for (const auto& level : levels) {
             const std::string label = level.first == "none"     ? "nothing pending"
                                       : level.first == "failed" ? "failed"

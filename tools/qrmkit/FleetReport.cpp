@@ -35,9 +35,7 @@ private:
 class TableReport : public FleetReport {
 public:
     TableReport(FleetHeader header, const Style& style, FleetWriter write)
-        : mHeader(std::move(header)),
-          mStyle(style),
-          mWrite(std::move(write)),
+        : mHeader(std::move(header)), mStyle(style), mWrite(std::move(write)),
           mTable({{"SYSTEM"},
                   {"INVENTORY", true, 12, true},
                   {"NEWER"},
@@ -45,8 +43,7 @@ public:
                   {"OLDER"},
                   {"UNKNOWN"},
                   {"HIGHEST CRIT", false, 0, false, StatusPaint}})
-    {
-    }
+    {}
 
     void Add(const FleetResult& result) override
     {
@@ -62,15 +59,15 @@ public:
             mTable.AddLine("error " + computer.errorCode + ": " + message, 2);
             return;
         }
-        mTable.AddRow({computer.systemID.empty() ? "-" : computer.systemID, computer.inventory,
-                       Count(computer.newer), Count(computer.same), Count(computer.older), Count(computer.unknown),
+        mTable.AddRow({computer.systemID.empty() ? "-" : computer.systemID, computer.inventory, Count(computer.newer),
+                       Count(computer.same), Count(computer.older), Count(computer.unknown),
                        computer.highestCriticality.empty() ? "none" : computer.highestCriticality});
     }
 
     void Finish() override
     {
-        std::string out = Fit(OneLine("Fleet updates from catalog " + mHeader.catalogRelease + " (" +
-                                      mHeader.catalog + "), bundle type " + mHeader.bundleType),
+        std::string out = Fit(OneLine("Fleet updates from catalog " + mHeader.catalogRelease + " (" + mHeader.catalog +
+                                      "), bundle type " + mHeader.bundleType),
                               mStyle.width) +
                           "\n\n";
         out += mTable.Render(mStyle);
@@ -80,9 +77,10 @@ public:
         out += "Updates: " + Count(t.newer) + " newer, " + Count(t.same) + " same, " + Count(t.older) + " older, " +
                Count(t.unknown) + " unknown.\n";
         if (t.evaluated > 0) {
-            out += Fit("NEWER: packages newer than what is installed; HIGHEST CRIT: the highest criticality among them.",
-                       mStyle.width) +
-                   "\n";
+            out +=
+                Fit("NEWER: packages newer than what is installed; HIGHEST CRIT: the highest criticality among them.",
+                    mStyle.width) +
+                "\n";
         }
         mWrite(out);
     }
@@ -141,8 +139,8 @@ ComputerSummary Summarize(const Json& result)
     return computer;
 }
 
-std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const FleetHeader& header,
-                                             const Style& style, FleetWriter write)
+std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const FleetHeader& header, const Style& style,
+                                             FleetWriter write)
 {
     if (format == "html") {
         return MakeHtmlFleetReport(header, std::move(write));
@@ -155,8 +153,7 @@ std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const Fl
 
 FleetProgress::FleetProgress(std::size_t total, bool wanted)
     : mTotal(total), mEnabled(wanted && isatty(2) != 0), mStart(std::chrono::steady_clock::now()), mLast(mStart)
-{
-}
+{}
 
 void FleetProgress::Update(std::size_t done)
 {
@@ -172,8 +169,8 @@ void FleetProgress::Update(std::size_t done)
     const double rate = seconds > 0 ? static_cast<double>(done) / seconds : 0;
     char line[160];
     if (rate > 0) {
-        std::snprintf(line, sizeof line, "\rqrmkit fleet: %zu/%zu inventories, %.0f/s, %.0f s left\033[K", done,
-                      mTotal, rate, static_cast<double>(mTotal - done) / rate);
+        std::snprintf(line, sizeof line, "\rqrmkit fleet: %zu/%zu inventories, %.0f/s, %.0f s left\033[K", done, mTotal,
+                      rate, static_cast<double>(mTotal - done) / rate);
     } else {
         std::snprintf(line, sizeof line, "\rqrmkit fleet: %zu/%zu inventories\033[K", done, mTotal);
     }

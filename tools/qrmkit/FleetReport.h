@@ -69,8 +69,8 @@ public:
 using FleetWriter = std::function<void(const std::string& text)>;
 
 // `format` is "jsonl", "table" or "html"; the style lays out the table.
-std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const FleetHeader& header,
-                                             const Style& style, FleetWriter write);
+std::unique_ptr<FleetReport> MakeFleetReport(const std::string& format, const FleetHeader& header, const Style& style,
+                                             FleetWriter write);
 std::unique_ptr<FleetReport> MakeHtmlFleetReport(const FleetHeader& header, FleetWriter write);
 
 // A progress line (done / total, rate, time left) rewritten in place on

@@ -35,7 +35,9 @@ std::string PackedKind(const std::string& data)
     if (startsWith("\x1F\x8B", 2)) {
         return "gzip";
     }
-    if (startsWith("\xFD" "7zXZ\x00", 6)) {
+    if (startsWith("\xFD"
+                   "7zXZ\x00",
+                   6)) {
         return "xz";
     }
     if (startsWith("\x28\xB5\x2F\xFD", 4)) {

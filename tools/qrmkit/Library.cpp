@@ -123,10 +123,14 @@ std::string Hex(unsigned long long value, int digits)
 std::string CriticalityWord(QRMCriticalityValueEnum value)
 {
     switch (value) {
-    case QRM_CRITICALITY_LEVEL1: return "1";
-    case QRM_CRITICALITY_LEVEL2: return "2";
-    case QRM_CRITICALITY_LEVEL3: return "3";
-    case QRM_CRITICALITY_UNSPECIFIED: break;
+    case QRM_CRITICALITY_LEVEL1:
+        return "1";
+    case QRM_CRITICALITY_LEVEL2:
+        return "2";
+    case QRM_CRITICALITY_LEVEL3:
+        return "3";
+    case QRM_CRITICALITY_UNSPECIFIED:
+        break;
     }
     return "unspecified";
 }
@@ -146,10 +150,14 @@ std::string ArchitectureWord(QRMOSArchitectureEnum value) { return OrUnknown(QRM
 std::string StatusWord(int comparison)
 {
     switch (comparison) {
-    case 1: return "newer";
-    case 0: return "same";
-    case -1: return "older";
-    default: return "unknown";
+    case 1:
+        return "newer";
+    case 0:
+        return "same";
+    case -1:
+        return "older";
+    default:
+        return "unknown";
     }
 }
 

@@ -22,8 +22,7 @@ class ToolError : public std::runtime_error {
 public:
     ToolError(std::string code, const std::string& message, std::string file = std::string())
         : std::runtime_error(message), mCode(std::move(code)), mFile(std::move(file))
-    {
-    }
+    {}
     const std::string& Code() const { return mCode; }
     const std::string& File() const { return mFile; }
 
@@ -54,11 +53,11 @@ void Note(const std::string& text);
 // Every bundle type, in enumeration order.
 constexpr std::array<QRMBundleTypeEnum, 6> kBundleTypes = {QRM_BUNDLE_BTW32, QRM_BUNDLE_BTW64, QRM_BUNDLE_BTLX,
                                                            QRM_BUNDLE_BTRPM, QRM_BUNDLE_BTDEB, QRM_BUNDLE_BTOSIND};
-constexpr std::array<QRMComponentTypeValueEnum, 6> kComponentTypes = {
-    QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW, QRM_COMPONENT_BIOS, QRM_COMPONENT_APAC, QRM_COMPONENT_APP,
-    QRM_COMPONENT_DRVR};
-constexpr std::array<QRMCriticalityValueEnum, 4> kCriticalities = {
-    QRM_CRITICALITY_LEVEL1, QRM_CRITICALITY_LEVEL2, QRM_CRITICALITY_LEVEL3, QRM_CRITICALITY_UNSPECIFIED};
+constexpr std::array<QRMComponentTypeValueEnum, 6> kComponentTypes = {QRM_COMPONENT_SBDL, QRM_COMPONENT_FRMW,
+                                                                      QRM_COMPONENT_BIOS, QRM_COMPONENT_APAC,
+                                                                      QRM_COMPONENT_APP,  QRM_COMPONENT_DRVR};
+constexpr std::array<QRMCriticalityValueEnum, 4> kCriticalities = {QRM_CRITICALITY_LEVEL1, QRM_CRITICALITY_LEVEL2,
+                                                                   QRM_CRITICALITY_LEVEL3, QRM_CRITICALITY_UNSPECIFIED};
 
 std::string Utf8(const VELString& text);
 // The value of the first text of anything that carries texts ("" when it

@@ -133,8 +133,7 @@ std::string ManPage(const CLI::App& app, const std::string& version, const std::
 {
     std::ostringstream out;
     out << ".TH QRMKIT 1 \"\" \"qrmkit " << Roff(version) << "\" \"User Commands\"\n";
-    out << ".SH NAME\nqrmkit \\- " << Roff(app.get_description().substr(app.get_description().find(": ") + 2))
-        << "\n";
+    out << ".SH NAME\nqrmkit \\- " << Roff(app.get_description().substr(app.get_description().find(": ") + 2)) << "\n";
     out << ".SH SYNOPSIS\n.B qrmkit\n[\\fIGLOBAL OPTIONS\\fR] \\fICOMMAND\\fR [\\fIOPTIONS\\fR]\n";
     out << ".SH DESCRIPTION\n"
            "\\fBqrmkit\\fR reads a vendor's update catalog and a computer's inventory, both XML, and answers "

@@ -146,8 +146,7 @@ std::string Table::Render(const Style& style) const
     while (total() > maxWidth) {
         std::size_t widest = count;
         for (std::size_t c = 0; c < count; ++c) {
-            if (mColumns[c].shrinkable && widths[c] > minimums[c] &&
-                (widest == count || widths[c] > widths[widest])) {
+            if (mColumns[c].shrinkable && widths[c] > minimums[c] && (widest == count || widths[c] > widths[widest])) {
                 widest = c;
             }
         }
@@ -162,10 +161,10 @@ std::string Table::Render(const Style& style) const
         for (std::size_t c = 0; c < count; ++c) {
             std::size_t width = widths[c] + (header && c == 0 ? mIndent : 0);
             std::string cell = Fit(cells[c], width, mColumns[c].keepEnd);
-            std::string padding = c + 1 < count ? std::string(width - std::min(width, DisplayWidth(cell)) + kGap, ' ')
-                                                : std::string();
-            const char* paint = style.color && !header && mColumns[c].paint != nullptr ? mColumns[c].paint(cells[c])
-                                                                                         : nullptr;
+            std::string padding =
+                c + 1 < count ? std::string(width - std::min(width, DisplayWidth(cell)) + kGap, ' ') : std::string();
+            const char* paint =
+                style.color && !header && mColumns[c].paint != nullptr ? mColumns[c].paint(cells[c]) : nullptr;
             if (paint != nullptr && !cell.empty()) {
                 cell = std::string("\x1B[") + paint + "m" + cell + "\x1B[0m";
             }
@@ -211,8 +210,8 @@ Style StyleFor(int fd, const std::string& color)
     } else if (color == "auto") {
         const char* noColor = std::getenv("NO_COLOR");
         const char* term = std::getenv("TERM");
-        style.color = terminal && (noColor == nullptr || *noColor == '\0') &&
-                      (term == nullptr || std::string(term) != "dumb");
+        style.color =
+            terminal && (noColor == nullptr || *noColor == '\0') && (term == nullptr || std::string(term) != "dumb");
     }
     return style;
 }

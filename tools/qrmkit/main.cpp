@@ -64,14 +64,13 @@ bool AsksForJson(int argc, char** argv)
 
 // The exit statuses of every command, as 'qrmkit --help' and docs/tool.md
 // give them.
-const char kExitStatuses[] =
-    "Exit status:\n"
-    "  0    done\n"
-    "  2    bad input: a file is missing, unreadable or not the document expected\n"
-    "  3    fleet: at least one inventory failed; the others are reported\n"
-    "  4    no applicable bundle for the computer's system\n"
-    "  64   bad usage\n"
-    "  100  with --check: at least one package is newer than what is installed";
+const char kExitStatuses[] = "Exit status:\n"
+                             "  0    done\n"
+                             "  2    bad input: a file is missing, unreadable or not the document expected\n"
+                             "  3    fleet: at least one inventory failed; the others are reported\n"
+                             "  4    no applicable bundle for the computer's system\n"
+                             "  64   bad usage\n"
+                             "  100  with --check: at least one package is newer than what is installed";
 
 const char kGlobalOptions[] =
     "Global options, before or after the command: --color WHEN, -q/--quiet, -v/--verbose (see 'qrmkit --help').";
@@ -119,7 +118,8 @@ void AddBundleType(CLI::App* command, std::string& bundleType, const char* autom
 void AddInventory(CLI::App* command, Options& options)
 {
     DefaultFromEnvironment(
-        command->add_option("--inventory", options.inventory, "The computer's inventory (XML); default: $QRMKIT_INVENTORY")
+        command
+            ->add_option("--inventory", options.inventory, "The computer's inventory (XML); default: $QRMKIT_INVENTORY")
             ->type_name("FILE"),
         options.inventory, "QRMKIT_INVENTORY");
 }
@@ -252,8 +252,9 @@ int Run(int argc, char** argv)
     // A command that writes as it goes and chooses its own exit status.
     std::function<int()> direct;
 
-    CLI::App* updates = AddCommand(app, "updates", "List the packages that update the inventory's applications",
-                                   "qrmkit updates --catalog catalog.xml --inventory inventory.xml --bundle-type BTW64");
+    CLI::App* updates =
+        AddCommand(app, "updates", "List the packages that update the inventory's applications",
+                   "qrmkit updates --catalog catalog.xml --inventory inventory.xml --bundle-type BTW64");
     AddCatalog(updates, options.catalog);
     AddInventory(updates, options);
     AddBundleType(updates, options.bundleType, "the first type, in the order listed, with a bundle for this system");
@@ -277,8 +278,7 @@ int Run(int argc, char** argv)
     });
 
     CLI::App* explain = AddCommand(
-        app, "explain",
-        "Say for every installed application whether a package updates it and, when none does, why not",
+        app, "explain", "Say for every installed application whether a package updates it and, when none does, why not",
         "qrmkit explain --catalog catalog.xml --inventory inventory.xml --only no-supporting-package");
     AddCatalog(explain, options.catalog);
     AddInventory(explain, options);
@@ -307,13 +307,12 @@ int Run(int argc, char** argv)
     AddJson(bundle, options);
     bundle->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectBundles(options.catalog, options.inventory), options,
-                        qrmtool::RenderBundles);
+            return Emit(qrmtool::CollectBundles(options.catalog, options.inventory), options, qrmtool::RenderBundles);
         };
     });
 
-    CLI::App* catalog = AddCommand(app, "catalog", "Summarise an update catalog",
-                                   "qrmkit catalog --catalog catalog.xml --json");
+    CLI::App* catalog =
+        AddCommand(app, "catalog", "Summarise an update catalog", "qrmkit catalog --catalog catalog.xml --json");
     AddCatalog(catalog, options.catalog);
     AddJson(catalog, options);
     catalog->callback([&] {
@@ -325,9 +324,7 @@ int Run(int argc, char** argv)
     AddInventory(inventory, options);
     AddJson(inventory, options);
     inventory->callback([&] {
-        action = [&] {
-            return Emit(qrmtool::CollectInventory(options.inventory), options, qrmtool::RenderInventory);
-        };
+        action = [&] { return Emit(qrmtool::CollectInventory(options.inventory), options, qrmtool::RenderInventory); };
     });
 
     CLI::App* categories = AddCommand(app, "categories", "List the catalog's categories with their codes and acronyms",
@@ -335,14 +332,12 @@ int Run(int argc, char** argv)
     AddCatalog(categories, options.catalog);
     AddJson(categories, options);
     categories->callback([&] {
-        action = [&] {
-            return Emit(qrmtool::CollectCategories(options.catalog), options, qrmtool::RenderCategories);
-        };
+        action = [&] { return Emit(qrmtool::CollectCategories(options.catalog), options, qrmtool::RenderCategories); };
     });
 
-    CLI::App* collector = AddCommand(app, "collector",
-                                     "Print where the inventory collector for an operating system lies",
-                                     "qrmkit collector --catalog catalog.xml --os-code W22");
+    CLI::App* collector =
+        AddCommand(app, "collector", "Print where the inventory collector for an operating system lies",
+                   "qrmkit collector --catalog catalog.xml --os-code W22");
     AddCatalog(collector, options.catalog);
     collector->add_option("--os-code", options.osCode, "The operating system code (as in the catalog)")
         ->required()
@@ -350,8 +345,7 @@ int Run(int argc, char** argv)
     AddJson(collector, options);
     collector->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectCollector(options.catalog, options.osCode), options,
-                        qrmtool::RenderCollector);
+            return Emit(qrmtool::CollectCollector(options.catalog, options.osCode), options, qrmtool::RenderCollector);
         };
     });
 
@@ -361,22 +355,23 @@ int Run(int argc, char** argv)
     AddJson(compare, options);
     compare->callback([&] {
         action = [&] {
-            return Emit(qrmtool::CollectComparison(options.first, options.second), options,
-                        qrmtool::RenderComparison);
+            return Emit(qrmtool::CollectComparison(options.first, options.second), options, qrmtool::RenderComparison);
         };
     });
 
     qrmtool::FleetCommand fleetCommand;
     std::string shard;
-    CLI::App* fleet = AddCommand(
-        app, "fleet",
-        "Evaluate many inventories against one catalog: the catalog is read once and every inventory is "
-        "evaluated on its own, exactly as 'updates --json' would",
-        "qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/");
+    CLI::App* fleet =
+        AddCommand(app, "fleet",
+                   "Evaluate many inventories against one catalog: the catalog is read once and every inventory is "
+                   "evaluated on its own, exactly as 'updates --json' would",
+                   "qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/");
     AddCatalog(fleet, fleetCommand.catalog);
     AddBundleType(fleet, fleetCommand.bundleType,
                   "for each computer, the first type, in the order listed, with a bundle for its system");
-    fleet->add_option("--jobs,-j", fleetCommand.jobs, "Inventories evaluated at once (default: the number of processors)")
+    fleet
+        ->add_option("--jobs,-j", fleetCommand.jobs,
+                     "Inventories evaluated at once (default: the number of processors)")
         ->check(CLI::Range(1U, 1024U))
         ->type_name("N");
     fleet
@@ -407,8 +402,9 @@ int Run(int argc, char** argv)
                      "limit)")
         ->check(CLI::NonNegativeNumber)
         ->type_name("SECONDS");
-    fleet->add_option("INVENTORY", fleetCommand.inventories,
-                      "Inventory files, or directories: every *.xml file directly in one, sorted by name")
+    fleet
+        ->add_option("INVENTORY", fleetCommand.inventories,
+                     "Inventory files, or directories: every *.xml file directly in one, sorted by name")
         ->required()
         ->type_name("FILE");
     fleet->footer("Example:\n  qrmkit fleet --catalog catalog.xml --format html --output report.html inventories/\n\n" +
@@ -447,14 +443,18 @@ int Run(int argc, char** argv)
 
     // For the build: the manual page and the bash completion, written from
     // this very command line.
-    app.add_flag_callback("--generate-man-page", [&app] {
-           std::cout << qrmtool::ManPage(app, QRMKIT_TOOL_VERSION, kExitStatuses);
-           throw CLI::Success();
-       })->group("");
-    app.add_flag_callback("--generate-bash-completion", [&app] {
-           std::cout << qrmtool::BashCompletion(app);
-           throw CLI::Success();
-       })->group("");
+    app.add_flag_callback("--generate-man-page",
+                          [&app] {
+                              std::cout << qrmtool::ManPage(app, QRMKIT_TOOL_VERSION, kExitStatuses);
+                              throw CLI::Success();
+                          })
+        ->group("");
+    app.add_flag_callback("--generate-bash-completion",
+                          [&app] {
+                              std::cout << qrmtool::BashCompletion(app);
+                              throw CLI::Success();
+                          })
+        ->group("");
 
     try {
         CheckCommandName(app, argc, argv);
