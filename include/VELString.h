@@ -14,8 +14,6 @@
 #include "QRMKitExport.h"
 
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
 #include <ios>
 #include <string>
 #include <string_view>
@@ -29,7 +27,7 @@ public:
     // A stream manipulator such as std::dec or std::hex.
     typedef std::ios_base& (*NumberBase)(std::ios_base&);
 
-    VELString() noexcept { MakeEmpty(); }
+    VELString() noexcept;
     // Builds the text from a NUL-terminated byte string (UTF-8; a null
     // pointer gives the empty text).
     VELString(const char* text, VELCharEncodingType encoding = VEL_CHAR_ENCODING_UTF8);
@@ -37,16 +35,9 @@ public:
     explicit VELString(const std::u16string& units);
     explicit VELString(std::u16string&& units);
     VELString(const VELString& other);
-    VELString(VELString&& other) noexcept { TakeFrom(other); }
+    VELString(VELString&& other) noexcept;
     VELString& operator=(const VELString& other);
-    VELString& operator=(VELString&& other) noexcept
-    {
-        if (this != &other) {
-            Release();
-            TakeFrom(other);
-        }
-        return *this;
-    }
+    VELString& operator=(VELString&& other) noexcept;
     virtual ~VELString();
 
     // Builds the text from `length` bytes of UTF-8 (no terminator needed).
@@ -61,7 +52,7 @@ public:
     std::u16string GetUTF16String() const;
     // The code units in place: valid until this text is changed or
     // destroyed.
-    std::u16string_view GetUTF16View() const { return std::u16string_view(Data(), Size()); }
+    std::u16string_view GetUTF16View() const;
 
     // The unsigned integer that extracting an `unsigned int` from a
     // std::istringstream of the UTF-8 text after applying `base` would store:
@@ -96,55 +87,24 @@ public:
                                   unsigned int size, std::vector<VELString>& out) const;
 
 private:
-    // mSlots[7] tells the two forms apart. Held in place: mSlots[0..6] are
-    // the units and mSlots[7] is kInlineTag | length. On the heap: the first
-    // eight bytes are the block's address, the next four the length and the
-    // last four zero.
-    static constexpr std::size_t kInline = 7;
-    static constexpr char16_t kInlineTag = 0x8000;
-
-    bool IsInline() const { return (mSlots[kInline] & kInlineTag) != 0; }
-    const char16_t* Data() const { return IsInline() ? mSlots : HeapUnits(); }
-    std::size_t Size() const
-    {
-        if (IsInline()) {
-            return static_cast<std::size_t>(mSlots[kInline] & ~kInlineTag & 0xFFFF);
-        }
-        std::uint32_t size;
-        std::memcpy(&size, reinterpret_cast<const unsigned char*>(mSlots) + sizeof(char16_t*), sizeof size);
-        return size;
-    }
-    char16_t* HeapUnits() const
-    {
-        char16_t* units;
-        std::memcpy(&units, mSlots, sizeof units);
-        return units;
-    }
+    // How the text is laid out in mSlots is known to VELString.cpp alone.
+    bool IsInline() const;
+    const char16_t* Data() const;
+    std::size_t Size() const;
+    char16_t* HeapUnits() const;
     // Drops the held text and makes room for `length` units, which the
     // caller then fills in.
     char16_t* Reset(std::size_t length);
     void Assign(const char16_t* units, std::size_t length);
     // Frees a heap block and leaves the text empty.
-    void Release()
-    {
-        if (!IsInline()) {
-            ReleaseHeap();
-        }
-        MakeEmpty();
-    }
+    void Release();
     void ReleaseHeap();
-    void MakeEmpty() noexcept
-    {
-        std::memset(mSlots, 0, sizeof mSlots);
-        mSlots[kInline] = kInlineTag;
-    }
-    void TakeFrom(VELString& other) noexcept
-    {
-        std::memcpy(mSlots, other.mSlots, sizeof mSlots);
-        other.MakeEmpty();
-    }
+    void MakeEmpty() noexcept;
+    void TakeFrom(VELString& other) noexcept;
 
-    alignas(8) char16_t mSlots[kInline + 1];
+    // Sixteen bytes: up to seven code units in place, or a heap block's
+    // address and length.
+    alignas(8) char16_t mSlots[8];
 };
 
 VEL_API bool operator==(const VELString& left, const VELString& right);

@@ -57,7 +57,70 @@ std::string EncodeUTF8(std::u16string_view units)
     return bytes;
 }
 
+// mSlots[7] tells the two forms apart. Held in place: mSlots[0..6] are the
+// units and mSlots[7] is kInlineTag | length. On the heap: the first eight
+// bytes are the block's address, the next four the length and the last four
+// zero.
+constexpr std::size_t kInline = 7;
+constexpr char16_t kInlineTag = 0x8000;
+
 }  // namespace
+
+inline bool VELString::IsInline() const { return (mSlots[kInline] & kInlineTag) != 0; }
+
+inline char16_t* VELString::HeapUnits() const
+{
+    char16_t* units;
+    std::memcpy(&units, mSlots, sizeof units);
+    return units;
+}
+
+inline const char16_t* VELString::Data() const { return IsInline() ? mSlots : HeapUnits(); }
+
+inline std::size_t VELString::Size() const
+{
+    if (IsInline()) {
+        return static_cast<std::size_t>(mSlots[kInline] & ~kInlineTag & 0xFFFF);
+    }
+    std::uint32_t size;
+    std::memcpy(&size, reinterpret_cast<const unsigned char*>(mSlots) + sizeof(char16_t*), sizeof size);
+    return size;
+}
+
+inline void VELString::MakeEmpty() noexcept
+{
+    std::memset(mSlots, 0, sizeof mSlots);
+    mSlots[kInline] = kInlineTag;
+}
+
+inline void VELString::TakeFrom(VELString& other) noexcept
+{
+    std::memcpy(mSlots, other.mSlots, sizeof mSlots);
+    other.MakeEmpty();
+}
+
+inline void VELString::Release()
+{
+    if (!IsInline()) {
+        ReleaseHeap();
+    }
+    MakeEmpty();
+}
+
+VELString::VELString() noexcept { MakeEmpty(); }
+
+VELString::VELString(VELString&& other) noexcept { TakeFrom(other); }
+
+VELString& VELString::operator=(VELString&& other) noexcept
+{
+    if (this != &other) {
+        Release();
+        TakeFrom(other);
+    }
+    return *this;
+}
+
+std::u16string_view VELString::GetUTF16View() const { return std::u16string_view(Data(), Size()); }
 
 VELString::VELString(const char* text, VELCharEncodingType /*encoding*/) : VELString()
 {
