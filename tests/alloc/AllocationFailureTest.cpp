@@ -42,13 +42,11 @@ std::vector<std::size_t> FailurePoints(std::size_t total)
 // two different entries in a list is not equal to its own copy: these
 // accounts compare entry by entry instead.
 template <class Holder>
-std::string Texts(const Holder& list)
+std::string Texts(const Holder& holder)
 {
-    std::vector<QRMDisplay> displays;
-    list.GetDisplayValues(displays);
     std::string text;
-    for (const QRMDisplay& display : displays) {
-        text += display.GetLanguage().GetUTF8String() + "=" + display.GetValue().GetUTF8String() + ";";
+    for (const auto& [language, value] : TextsOf(holder)) {
+        text += language + "=" + value + ";";
     }
     return text;
 }

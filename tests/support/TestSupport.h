@@ -1,7 +1,12 @@
-// Shared helpers of the unit tests: temporary directories with fixture
-// files, and access to the private parts of the API that tests pin.
+// Shared helpers of the unit tests that check with GoogleTest: temporary
+// directories with fixture files, captured output, what the stores hold and
+// what an empty store reports. With them, the helpers every test program
+// shares (CatalogXML.h, Texts.h).
 #ifndef QRMKIT_TEST_SUPPORT_H
 #define QRMKIT_TEST_SUPPORT_H
+
+#include "CatalogXML.h"
+#include "Texts.h"
 
 #include <QRMKit.h>
 
@@ -13,29 +18,6 @@
 
 // A fresh directory under the system's temporary directory, removed with
 // everything in it when the object goes.
-// The texts of anything that carries them, as (language, value) pairs, in
-// order.
-template <class Holder>
-std::vector<std::pair<std::string, std::string>> TextsOf(const Holder& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    std::vector<std::pair<std::string, std::string>> texts;
-    for (const QRMDisplay& display : copies) {
-        texts.emplace_back(display.GetLanguage().GetUTF8String(), display.GetValue().GetUTF8String());
-    }
-    return texts;
-}
-
-// How many texts a holder carries.
-template <class Holder>
-std::size_t TextCount(const Holder& holder)
-{
-    std::vector<QRMDisplay> copies;
-    holder.GetDisplayValues(copies);
-    return copies.size();
-}
-
 class TempDir {
 public:
     TempDir();
@@ -52,13 +34,6 @@ public:
 private:
     std::string mPath;
 };
-
-// `text` written `count` times.
-std::string Repeat(const std::string& text, std::size_t count);
-
-// Encodes UTF-8 text as UTF-16 little or big endian with a byte-order mark.
-std::string ToUTF16LE(const std::string& utf8);
-std::string ToUTF16BE(const std::string& utf8);
 
 // Captures what the library writes to standard output while it lives.
 class StdoutCapture {
@@ -106,24 +81,5 @@ void ExpectNoInventory();
 // give for Windows x64 bundles: the stores work. Call it once per process,
 // with an inventory store that holds nothing else.
 void ExpectExampleUpdates();
-
-// Catalog fixtures. Each entry carries every child its reader requires, so
-// that it is read whole; `leaveOut` names one required child that is left
-// out, `twice` one that is written two times.
-namespace CatalogXML {
-
-// A "SoftwareBundle" with "Name", "ComponentType" and "Contents".
-std::string Bundle(const std::string& bundleID, const std::string& leaveOut = "", const std::string& twice = "");
-// A "SoftwareComponent" with "Name", "ComponentType", "Category" and
-// "SupportedDevices".
-std::string Component(const std::string& packageID, const std::string& leaveOut = "", const std::string& twice = "");
-// An "InventoryComponent" with "osCode" and "path".
-std::string InventoryComponent(const std::string& osCode, const std::string& path);
-// A whole catalog: an XML declaration, then the root element with the given
-// attribute text (written as it stands) around `entries`.
-std::string Document(const std::string& rootAttributes, const std::string& entries,
-                     const std::string& rootName = "Manifest");
-
-}  // namespace CatalogXML
 
 #endif
