@@ -1,117 +1,29 @@
-// The qrmkit commands. Each "Collect" function loads what it needs and
-// gathers everything into a JSON document (the command's --json output)
-// before anything is printed; the matching "Render" function turns that
-// document into the human-readable table. Failures are thrown as ToolError.
+// The qrmkit commands' tables: each "Render" function turns the JSON
+// document its "Collect" function gathered (Reports.h, the --json output)
+// into the human-readable text the command prints.
 #ifndef QRMKIT_TOOL_COMMANDS_H
 #define QRMKIT_TOOL_COMMANDS_H
 
-#include <QRMKit.h>
-#include <nlohmann/json.hpp>
+#include "Reports.h"
 
 #include <string>
-#include <vector>
 
 namespace qrmtool {
 
 struct Style;
 
-using Json = nlohmann::ordered_json;
-
-// The version of the shape of every JSON document the tool prints: raised
-// when a member changes meaning or goes away (new members do not raise it).
-constexpr int kSchemaVersion = 1;
-
-// An empty JSON document that names its schema version ("schema_version"
-// first): every document the tool prints starts as one.
-Json NewDocument();
-
-// A new document about one computer, for the catalog and inventory the
-// library has read: their paths, the catalog's release and the system id.
-Json ComputerDocument(const std::string& catalog, const std::string& inventory);
-
-// The document as JSON text: indented by `indent` spaces, or on one line
-// when `indent` is negative. Text that is not valid UTF-8 is replaced, never
-// thrown on.
-std::string JsonText(const Json& document, int indent);
-
-// `bundleType` is "auto" or a bundle type text ("BTW64").
-Json CollectUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
-// Whether an updates document has a package newer than what is installed
-// (what --check asks).
-bool HasNewer(const Json& updates);
-
-// The same document for a catalog the library has read already: reads only
-// the inventory. `catalog` is the path the document names. Every way of
-// asking for updates (one computer or a fleet) goes through this function,
-// so they cannot disagree.
-Json EvaluateUpdates(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
+// The update table, grouped by device, under the catalog and the bundle.
 std::string RenderUpdates(const Json& document, const Style& style);
-
-// An update's row: the device, the application and its installed version,
-// the package that updates it (version, status, type, criticality,
-// category, name, ids, path and location under the catalog's base).
-Json UpdateEntry(const QRMIDevice& device, const QRMIApplication& application, const QRMSoftwareComponent& component,
-                 const std::string& base);
-
-// The bundle updates come from, for the inventory read last: of the type
-// named, or with "auto" the first type, in enumeration order, with a bundle
-// for the system. `bundle` is null when none applies.
-struct BundleChoice {
-    QRMSoftwareBundle* bundle = nullptr;
-    QRMBundleTypeEnum type = QRM_BUNDLE_BTW32;
-    bool automatic = false;
-};
-BundleChoice ChooseBundle(const std::string& bundleType);
-
-class ToolError;
-// The failure when no bundle applies: "no-bundle", naming the inventory.
-ToolError NoBundle(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
-
-// "0A6B", or null when the inventory does not name exactly one system.
-Json SystemID(unsigned int id);
-// "system 0A6B" or "an inventory without a single system".
-std::string SystemPhrase(const Json& systemID);
-// A JSON value as text: strings as they are, null as "", others as JSON.
-std::string Text(const Json& value);
-// "1 update", "2 updates".
-std::string Plural(std::size_t count, const std::string& one, const std::string& many);
-// The texts of a list, with the separator between them.
-std::string Join(const Json& list, const char* separator = ", ");
-// The bundle type a "--bundle-type" text names (QRM_BUNDLE_BTW32 for
-// "auto"), or a "usage" ToolError for a text that names none.
-QRMBundleTypeEnum RequestedBundleType(const std::string& bundleType);
-
-Json CollectBundles(const std::string& catalog, const std::string& inventory);
 std::string RenderBundles(const Json& document, const Style& style);
-
-Json CollectCatalog(const std::string& catalog);
 std::string RenderCatalog(const Json& document, const Style& style);
-
-Json CollectInventory(const std::string& inventory);
 std::string RenderInventory(const Json& document, const Style& style);
-
-Json CollectCategories(const std::string& catalog);
 std::string RenderCategories(const Json& document, const Style& style);
-
-// Where the inventory collector for an operating system code lies: the
-// document names the catalog, the code and the full location; rendered, the
-// location alone on a line.
-Json CollectCollector(const std::string& catalog, const std::string& osCode);
 std::string RenderCollector(const Json& document, const Style& style);
-
-// How two versions order: "order" -1, 0 or 1 and "relation" "<", "=" or
-// ">"; rendered "V1 < V2". Versions that cannot be compared are a ToolError.
-Json CollectComparison(const std::string& first, const std::string& second);
 std::string RenderComparison(const Json& document, const Style& style);
 
-// {"error": {"code", "message", "file"}}: what --json prints for a failure
-// ("file" null when no file is at fault).
-Json ErrorDocument(const ToolError& error);
-
-// Keeps only the rows of the document's list `list` whose "status" or
-// "outcome" is one of `words` (all of them when it is empty) and records
-// the filter as "only"; the summary still counts every row.
-void KeepOnly(Json& document, const char* list, const std::vector<std::string>& words);
+// The outcome of every application, grouped by device, with the reason in
+// words.
+std::string RenderExplanation(const Json& document, const Style& style);
 
 }  // namespace qrmtool
 

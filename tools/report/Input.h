@@ -1,13 +1,13 @@
-// How qrmkit reads the documents named on its command line: "-" is
-// standard input; anything that is not a regular file (a pipe, /dev/stdin,
-// a process substitution) is read like it; compressed input (gzip, xz,
+// How qrmkit (the tool and the Python package) reads the documents it is
+// given: "-" is standard input; anything that is not a regular file (a
+// pipe, /dev/stdin, a process substitution) is read like it; compressed input (gzip, xz,
 // zstd, bzip2) and an archive holding one XML file (cabinet, zip) are
 // recognised by their content and unpacked in memory. The library then
 // reads a plain XML file, exactly as it reads any other: the original file
 // when it is a plain regular file (no copy), otherwise an in-memory file
 // holding the document.
-#ifndef QRMKIT_TOOL_INPUT_H
-#define QRMKIT_TOOL_INPUT_H
+#ifndef QRMKIT_REPORT_INPUT_H
+#define QRMKIT_REPORT_INPUT_H
 
 #include <cstddef>
 #include <string>

@@ -3,8 +3,8 @@
 // each inventory is evaluated in a child process of its own, forked after the
 // catalog has been read: the parsed catalog is shared copy-on-write and no
 // inventory ever sees another's devices.
-#ifndef QRMKIT_TOOL_FLEET_H
-#define QRMKIT_TOOL_FLEET_H
+#ifndef QRMKIT_REPORT_FLEET_H
+#define QRMKIT_REPORT_FLEET_H
 
 #include <cstddef>
 #include <functional>

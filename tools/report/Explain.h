@@ -4,11 +4,12 @@
 // it. Computed from the library's public data; an application is "update"
 // here exactly when GetApplicableUpdates gives it a package, and it is the
 // same package.
-#ifndef QRMKIT_TOOL_EXPLAIN_H
-#define QRMKIT_TOOL_EXPLAIN_H
+#ifndef QRMKIT_REPORT_EXPLAIN_H
+#define QRMKIT_REPORT_EXPLAIN_H
 
-#include "Commands.h"
+#include "Reports.h"
 
+#include <array>
 #include <string>
 
 namespace qrmtool {
@@ -23,9 +24,12 @@ namespace qrmtool {
 //   type-mismatch          none of those has the application's component type
 //   sub-id-mismatch        vendor and device match, no entry has the
 //                          device's sub-ids or 0/0
+constexpr std::array<const char*, 7> kOutcomes = {
+    "update",        "device-excluded", "no-bundle",      "no-supporting-package",
+    "not-in-bundle", "type-mismatch",   "sub-id-mismatch"};
+
 // `bundleType` is "auto" or a bundle type text.
 Json CollectExplanation(const std::string& catalog, const std::string& inventory, const std::string& bundleType);
-std::string RenderExplanation(const Json& document, const Style& style);
 
 }  // namespace qrmtool
 

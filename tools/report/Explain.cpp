@@ -1,7 +1,6 @@
 #include "Explain.h"
 
 #include "Library.h"
-#include "Table.h"
 
 #include <QRMKit.h>
 
@@ -19,9 +18,6 @@ namespace {
 
 // How many packages a "not-in-bundle" outcome names.
 constexpr std::size_t kNamedPackages = 3;
-
-const char* const kOutcomes[] = {"update",        "device-excluded", "no-bundle",      "no-supporting-package",
-                                 "not-in-bundle", "type-mismatch",   "sub-id-mismatch"};
 
 // The file name a package path is listed under in a bundle: the text after
 // its last "/" (all of it when it has none), compared unit for unit.
@@ -328,8 +324,6 @@ Json Explain(const QRMIDevice& device, const QRMIApplication& application, const
                                  Text(update["path"]) + ", by " + how);
 }
 
-const char* OutcomePaint(const std::string& outcome) { return outcome == "update" ? "32" : nullptr; }
-
 }  // namespace
 
 Json CollectExplanation(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
@@ -389,54 +383,6 @@ Json CollectExplanation(const std::string& catalog, const std::string& inventory
     }
     document["summary"] = std::move(summary);
     return document;
-}
-
-std::string RenderExplanation(const Json& document, const Style& style)
-{
-    std::string out = Fit(OneLine("Why each application of " + SystemPhrase(document["system_id"]) +
-                                  " gets an update or not, from catalog " + Text(document["catalog_release"]) + " (" +
-                                  Text(document["catalog"]) + ")"),
-                          style.width) +
-                      "\n";
-    const Json& bundle = document["bundle"];
-    out += Fit(OneLine(bundle.is_null()
-                           ? "No bundle of type " + Text(document["requested_bundle_type"]) + " applies to this system"
-                           : "Bundle " + Text(bundle["id"]) + ", type " + Text(bundle["type"]) +
-                                 (Text(bundle["selection"]) == "auto" ? " (auto)" : " (as requested)")),
-               style.width) +
-           "\n\n";
-
-    Table table({{"DEVICE / APPLICATION", true, 12},
-                 {"INSTALLED", true, 9},
-                 {"OUTCOME", false, 0, false, OutcomePaint},
-                 {"REASON", true, 20}},
-                2);
-    for (const Json& row : document["applications"]) {
-        table.AddGroup(Text(row["device"]));
-        table.AddRow({Text(row["application"]), Text(row["installed_version"]), Text(row["outcome"]),
-                      OneLine(Text(row["reason"]))});
-    }
-    out += table.Render(style);
-
-    const Json& summary = document["summary"];
-    std::string counts;
-    for (const char* outcome : kOutcomes) {
-        if (summary[outcome].get<std::size_t>() > 0) {
-            counts += (counts.empty() ? "" : ", ") + Text(summary[outcome]) + " " + outcome;
-        }
-    }
-    out += "\n";
-    if (document.contains("only")) {
-        out += Fit("Showing only: " + Join(document["only"]) + " (" + std::to_string(document["applications"].size()) +
-                       " of " + Text(summary["applications"]) + " applications).",
-                   style.width) +
-               "\n";
-    }
-    out += Fit(Plural(summary["applications"].get<std::size_t>(), "installed application", "installed applications") +
-                   (counts.empty() ? "." : ": " + counts + "."),
-               style.width) +
-           "\n";
-    return out;
 }
 
 }  // namespace qrmtool

@@ -1,7 +1,7 @@
 #include "Fleet.h"
 
-#include "Commands.h"
 #include "Library.h"
+#include "Reports.h"
 
 #include <fcntl.h>
 #include <poll.h>

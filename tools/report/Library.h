@@ -1,7 +1,8 @@
-// qrmkit's bridge to the library: loading the two documents with errors in
-// words, and the texts the tool prints for the library's values.
-#ifndef QRMKIT_TOOL_LIBRARY_H
-#define QRMKIT_TOOL_LIBRARY_H
+// The bridge from qrmkit (the tool and the Python package) to the library:
+// loading the two documents with errors in words, and the texts the answers
+// give for the library's values.
+#ifndef QRMKIT_REPORT_LIBRARY_H
+#define QRMKIT_REPORT_LIBRARY_H
 
 #include <QRMKit.h>
 
