@@ -7,7 +7,6 @@
 
 #include <QRMKit.h>
 
-#include <malloc.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -102,8 +101,9 @@ int RunFleet(const FleetCommand& command)
     }
     const std::string format = !command.format.empty() ? command.format : output.IsTerminal() ? "table" : "jsonl";
 
+    std::vector<FleetInput> inputs;
     try {
-        LoadCatalog(command.catalog);
+        inputs = LoadFleet(command.catalog, command.inventories, command.shardIndex, command.shardCount);
     } catch (const ToolError& error) {
         if (format == "jsonl") {
             output.Write(JsonText(ErrorDocument(error), -1) + "\n");
@@ -117,12 +117,6 @@ int RunFleet(const FleetCommand& command)
         return kExitFailure;
     }
 
-    // Reading left free memory behind (the parsed document); giving it back
-    // makes every fork cheaper and the children's share of memory smaller.
-    malloc_trim(0);
-
-    const std::vector<FleetInput> inputs =
-        ShardOf(ListFleet(command.inventories), command.shardIndex, command.shardCount);
     FleetHeader header;
     header.catalog = command.catalog;
     header.catalogRelease = Utf8(QRMKitAPI::Instance()->GetCatalogReleaseID());

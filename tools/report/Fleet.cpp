@@ -4,6 +4,7 @@
 #include "Reports.h"
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <poll.h>
 #include <sched.h>
 #include <signal.h>
@@ -31,22 +32,6 @@ constexpr int kChildEvaluated = 0;
 constexpr int kChildNewer = 10;
 constexpr int kChildFailed = 20;
 constexpr int kChildNoAnswer = 30;
-
-bool WriteAll(int fd, const std::string& text)
-{
-    std::size_t done = 0;
-    while (done < text.size()) {
-        ssize_t written = write(fd, text.data() + done, text.size() - done);
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written <= 0) {
-            return false;
-        }
-        done += static_cast<std::size_t>(written);
-    }
-    return true;
-}
 
 // The child's whole life: evaluate, write one line, leave without running
 // the parent's exit handlers or flushing its buffers.
@@ -143,29 +128,21 @@ FleetResult Finish(const Child& child, int status, const FleetRun& run, const st
 bool Start(const FleetInput& input, std::size_t index, const FleetRun& run, const std::vector<Child>& running,
            Child& child)
 {
-    int fds[2];
-    if (pipe(fds) != 0) {
+    IsolatedChild started;
+    const bool ok = StartIsolated(
+        [&](int fd) {
+            for (const Child& other : running) {
+                close(other.fd);
+            }
+            RunChild(input, run, fd);
+        },
+        started);
+    if (!ok) {
         return false;
     }
-    pid_t pid = fork();
-    if (pid < 0) {
-        int saved = errno;
-        close(fds[0]);
-        close(fds[1]);
-        errno = saved;
-        return false;
-    }
-    if (pid == 0) {
-        close(fds[0]);
-        for (const Child& other : running) {
-            close(other.fd);
-        }
-        RunChild(input, run, fds[1]);
-    }
-    close(fds[1]);
-    fcntl(fds[0], F_SETFL, fcntl(fds[0], F_GETFL) | O_NONBLOCK);
-    child.pid = pid;
-    child.fd = fds[0];
+    fcntl(started.fd, F_SETFL, fcntl(started.fd, F_GETFL) | O_NONBLOCK);
+    child.pid = started.pid;
+    child.fd = started.fd;
     child.index = index;
     child.data.clear();
     child.timedOut = false;
@@ -266,6 +243,16 @@ std::vector<FleetInput> ShardOf(const std::vector<FleetInput>& inputs, unsigned 
     return shard;
 }
 
+std::vector<FleetInput> LoadFleet(const std::string& catalog, const std::vector<std::string>& arguments,
+                                  unsigned shardIndex, unsigned shardCount)
+{
+    LoadCatalog(catalog);
+    // Reading left free memory behind (the parsed document); giving it back
+    // makes every fork cheaper and the children's share of memory smaller.
+    malloc_trim(0);
+    return ShardOf(ListFleet(arguments), shardIndex, shardCount);
+}
+
 void EvaluateFleet(const std::vector<FleetInput>& inputs, const FleetRun& run,
                    const std::function<void(const FleetResult&)>& report,
                    const std::function<void(std::size_t done)>& progress)
@@ -346,6 +333,127 @@ void EvaluateFleet(const std::vector<FleetInput>& inputs, const FleetRun& run,
             running.erase(running.begin() + static_cast<std::ptrdiff_t>(i));
         }
     }
+}
+
+bool WriteAll(int fd, const std::string& text)
+{
+    std::size_t done = 0;
+    while (done < text.size()) {
+        ssize_t written = write(fd, text.data() + done, text.size() - done);
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            return false;
+        }
+        done += static_cast<std::size_t>(written);
+    }
+    return true;
+}
+
+bool StartIsolated(const std::function<void(int fd)>& body, IsolatedChild& child)
+{
+    int fds[2];
+    if (pipe(fds) != 0) {
+        return false;
+    }
+    const pid_t pid = fork();
+    if (pid < 0) {
+        const int saved = errno;
+        close(fds[0]);
+        close(fds[1]);
+        errno = saved;
+        return false;
+    }
+    if (pid == 0) {
+        close(fds[0]);
+        int status = 0;
+        try {
+            body(fds[1]);
+        } catch (...) {
+            status = kChildNoAnswer;
+        }
+        _exit(status);
+    }
+    close(fds[1]);
+    child.pid = pid;
+    child.fd = fds[0];
+    return true;
+}
+
+bool ReadSome(const IsolatedChild& child, std::string& data)
+{
+    char buffer[65536];
+    for (;;) {
+        const ssize_t count = read(child.fd, buffer, sizeof buffer);
+        if (count > 0) {
+            data.append(buffer, static_cast<std::size_t>(count));
+            return true;
+        }
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        return false;
+    }
+}
+
+std::string EndIsolated(IsolatedChild& child)
+{
+    if (child.fd >= 0) {
+        close(child.fd);
+        child.fd = -1;
+    }
+    if (child.pid < 0) {
+        return std::string();
+    }
+    const int status = WaitFor(child.pid);
+    child.pid = -1;
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
+        return std::string();
+    }
+    if (WIFSIGNALED(status)) {
+        return "killed by signal " + SignalName(WTERMSIG(status)) +
+               (WTERMSIG(status) == SIGKILL ? "; the system may have run out of memory" : "");
+    }
+    return "ended with status " + std::to_string(WIFEXITED(status) ? WEXITSTATUS(status) : -1) + " without an answer";
+}
+
+std::string EvaluateIsolated(const std::function<Json()>& work)
+{
+    IsolatedChild child;
+    const bool started = StartIsolated(
+        [&work](int fd) {
+            std::string text;
+            try {
+                text = JsonText(work(), -1);
+            } catch (const ToolError& error) {
+                text = JsonText(ErrorDocument(error), -1);
+            } catch (const std::bad_alloc&) {
+                text = JsonText(ErrorDocument(ToolError("out-of-memory", "the evaluation ran out of memory")), -1);
+            } catch (const std::exception& error) {
+                text =
+                    JsonText(ErrorDocument(ToolError("internal", std::string("internal error: ") + error.what())), -1);
+            }
+            if (!WriteAll(fd, text + "\n")) {
+                _exit(kChildNoAnswer);
+            }
+        },
+        child);
+    if (!started) {
+        throw ToolError("process-failed", std::string("no process could be started to compute the answer (") +
+                                              std::strerror(errno) + ")");
+    }
+    std::string data;
+    while (ReadSome(child, data)) {
+    }
+    const std::string death = EndIsolated(child);
+    if (death.empty() && !data.empty() && data.back() == '\n') {
+        data.pop_back();
+        return data;
+    }
+    return JsonText(ErrorDocument(ToolError("process-died", "the process computing the answer " +
+                                                                (death.empty() ? "gave no answer" : death))),
+                    -1);
 }
 
 }  // namespace qrmtool

@@ -6,6 +6,10 @@
 #ifndef QRMKIT_REPORT_FLEET_H
 #define QRMKIT_REPORT_FLEET_H
 
+#include "Reports.h"
+
+#include <sys/types.h>
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -30,6 +34,12 @@ std::vector<FleetInput> ListFleet(const std::vector<std::string>& arguments);
 // The inputs at the 0-based positions p with p mod `count` == `index` - 1
 // (`index` from 1 to `count`), in order.
 std::vector<FleetInput> ShardOf(const std::vector<FleetInput>& inputs, unsigned index, unsigned count);
+
+// Reads the catalog (a ToolError when it cannot be read), gives back the
+// memory reading left free so that every child is cheaper to fork, and
+// returns the shard of the inventories the arguments name.
+std::vector<FleetInput> LoadFleet(const std::string& catalog, const std::vector<std::string>& arguments,
+                                  unsigned shardIndex = 1, unsigned shardCount = 1);
 
 enum class FleetOutcome {
     Evaluated,           // evaluated; no available version is newer than the installed one
@@ -67,6 +77,41 @@ std::string FleetErrorLine(const std::string& inventory, const std::string& code
 void EvaluateFleet(const std::vector<FleetInput>& inputs, const FleetRun& run,
                    const std::function<void(const FleetResult&)>& report,
                    const std::function<void(std::size_t done)>& progress);
+
+// ---- isolation for callers that live on (the Python package)
+//
+// A long-lived process cannot read a second inventory into the library's
+// stores without mixing it with the first, so each answer is computed in a
+// child process forked for it, which starts from a copy of the caller's
+// stores and leaves them as they were.
+
+// A forked child and the read end of the pipe it writes its answer to.
+struct IsolatedChild {
+    pid_t pid = -1;
+    int fd = -1;
+};
+
+// Forks a child that runs `body` with the write end of the pipe and then
+// ends; false (errno set) when no process or pipe can be made. The child
+// never returns to the caller's code: it ends with _exit, running no exit
+// handlers and flushing no buffers of the caller.
+bool StartIsolated(const std::function<void(int fd)>& body, IsolatedChild& child);
+
+// Closes the pipe and waits for the child; "" when it ended normally, else
+// what happened to it ("killed by signal 9 (Killed)", ...).
+std::string EndIsolated(IsolatedChild& child);
+
+// Reads from the child's pipe into `data`; false at the end of its output.
+bool ReadSome(const IsolatedChild& child, std::string& data);
+
+// Writes all of `text` to `fd`; false when it cannot.
+bool WriteAll(int fd, const std::string& text);
+
+// The document `work` gives, computed in an isolated child, as one line of
+// JSON text; the ToolError it throws becomes its error document
+// (ErrorDocument), and a child that dies the error "process-died". Throws
+// a ToolError ("process-failed") when no child can be started.
+std::string EvaluateIsolated(const std::function<Json()>& work);
 
 }  // namespace qrmtool
 

@@ -254,6 +254,43 @@ Json CollectBundles(const std::string& catalog, const std::string& inventory)
 
 // ---------------------------------------------------------------- catalog
 
+namespace {
+
+// A new document about the catalog the library has read: its path, base
+// location, release, version and time.
+Json CatalogDocument(const std::string& catalog)
+{
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    Json document = NewDocument();
+    document["catalog"] = catalog;
+    document["base_location"] = Utf8(api->GetBaseLocation());
+    document["release_id"] = Utf8(api->GetCatalogReleaseID());
+    document["version"] = Utf8(api->GetCatalogVersion());
+    document["date_time"] = api->GetCatalogDateTime().GetValue();
+    return document;
+}
+
+// The catalog's inventory collectors, in catalog order.
+Json CollectorList()
+{
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    const std::string base = Utf8(api->GetBaseLocation());
+    std::vector<QRMInventoryComponent> collectors;
+    api->GetInventoryComponents(collectors);
+    Json list = Json::array();
+    for (const QRMInventoryComponent& collector : collectors) {
+        const std::string path = Utf8(collector.GetPath());
+        list.push_back({{"os_code", Utf8(collector.GetOSCode())},
+                        {"path", path},
+                        {"location", base + "/" + path},
+                        {"vendor_version", Utf8(collector.GetVendorVersion())},
+                        {"release_id", Utf8(collector.GetReleaseID())}});
+    }
+    return list;
+}
+
+}  // namespace
+
 Json CollectCatalog(const std::string& catalog)
 {
     LoadCatalog(catalog);
@@ -287,30 +324,12 @@ Json CollectCatalog(const std::string& catalog)
         levelSlot = (levelSlot.is_null() ? 0 : levelSlot.get<std::size_t>()) + 1;
     }
 
-    const std::string base = Utf8(api->GetBaseLocation());
-    std::vector<QRMInventoryComponent> collectors;
-    api->GetInventoryComponents(collectors);
-    Json collectorList = Json::array();
-    for (const QRMInventoryComponent& collector : collectors) {
-        const std::string path = Utf8(collector.GetPath());
-        collectorList.push_back({{"os_code", Utf8(collector.GetOSCode())},
-                                 {"path", path},
-                                 {"location", base + "/" + path},
-                                 {"vendor_version", Utf8(collector.GetVendorVersion())},
-                                 {"release_id", Utf8(collector.GetReleaseID())}});
-    }
-
-    Json document = NewDocument();
-    document["catalog"] = catalog;
-    document["base_location"] = base;
-    document["release_id"] = Utf8(api->GetCatalogReleaseID());
-    document["version"] = Utf8(api->GetCatalogVersion());
-    document["date_time"] = api->GetCatalogDateTime().GetValue();
+    Json document = CatalogDocument(catalog);
     document["bundles"] = {{"total", bundles.size()}, {"by_type", std::move(bundlesByType)}};
     document["components"] = {{"total", components.size()},
                               {"by_type", std::move(componentsByType)},
                               {"by_criticality", std::move(componentsByCriticality)}};
-    document["inventory_collectors"] = std::move(collectorList);
+    document["inventory_collectors"] = CollectorList();
     return document;
 }
 
@@ -390,9 +409,12 @@ Json CollectInventory(const std::string& inventory)
 
 // ---------------------------------------------------------------- categories
 
-Json CollectCategories(const std::string& catalog)
+namespace {
+
+// The category texts with their codes, acronyms and listed values, and the
+// acronym map, as the library has them now.
+void CategoryLists(Json& categories, Json& acronymMap)
 {
-    LoadCatalog(catalog);
     QRMKitAPI* api = QRMKitAPI::Instance();
     std::map<VELString, VELString> codes;
     api->GetCategoryValues(codes);
@@ -401,7 +423,7 @@ Json CollectCategories(const std::string& catalog)
     std::map<VELString, VELString> acronyms;
     api->GetAcronymForCategoryValues(acronyms);
 
-    Json categories = Json::array();
+    categories = Json::array();
     for (const auto& category : listed) {
         Json codeList = Json::array();
         Json acronymList = Json::array();
@@ -420,15 +442,142 @@ Json CollectCategories(const std::string& catalog)
                               {"acronyms", std::move(acronymList)},
                               {"listed", std::move(values)}});
     }
-    Json acronymMap = Json::object();
+    acronymMap = Json::object();
     for (const auto& acronym : acronyms) {
         acronymMap[Utf8(acronym.first)] = Utf8(acronym.second);
     }
+}
 
+}  // namespace
+
+Json CollectCategories(const std::string& catalog)
+{
+    LoadCatalog(catalog);
+    Json categories;
+    Json acronymMap;
+    CategoryLists(categories, acronymMap);
     Json document = NewDocument();
     document["catalog"] = catalog;
     document["categories"] = std::move(categories);
     document["acronyms"] = std::move(acronymMap);
+    return document;
+}
+
+// ---------------------------------------------------------------- contents
+
+namespace {
+
+Json SystemIDsOf(const QRMSupportedSystems& systems)
+{
+    std::vector<QRMBrand*> brands;
+    systems.GetBrands(brands);
+    Json ids = Json::array();
+    for (const QRMBrand* brand : brands) {
+        std::vector<QRMModel*> models;
+        brand->GetModels(models);
+        for (const QRMModel* model : models) {
+            ids.push_back(Hex(model->GetSystemID()));
+        }
+    }
+    return ids;
+}
+
+Json OSCodesOf(const QRMSupportedOperatingSystems& systems)
+{
+    std::vector<QRMOperatingSystem> oses;
+    systems.GetOSes(oses);
+    Json codes = Json::array();
+    for (const QRMOperatingSystem& os : oses) {
+        codes.push_back(Utf8(os.GetCode()));
+    }
+    return codes;
+}
+
+Json BundleContents(const QRMSoftwareBundle& bundle)
+{
+    std::vector<QRMBundleContent> contents;
+    bundle.GetContents(contents);
+    Json packages = Json::array();
+    for (const QRMBundleContent& content : contents) {
+        packages.push_back({{"package_id", Utf8(content.GetPackageID())}, {"path", Utf8(content.GetPath())}});
+    }
+    return {{"id", Utf8(bundle.GetBundleID())},
+            {"type", BundleTypeWord(bundle.GetBundleType())},
+            {"name", FirstText(bundle.GetName())},
+            {"path", Utf8(bundle.GetPath())},
+            {"vendor_version", Utf8(bundle.GetVendorVersion())},
+            {"release_id", Utf8(bundle.GetReleaseID())},
+            {"date_time", bundle.GetDateTime().GetValue()},
+            {"systems", SystemIDsOf(bundle.GetTargetSystems())},
+            {"operating_systems", OSCodesOf(bundle.GetTargetOSes())},
+            {"packages", std::move(packages)}};
+}
+
+Json ComponentContents(const QRMSoftwareComponent& component, const std::string& base)
+{
+    std::vector<QRMDevice*> devices;
+    component.GetSupportedDevices(devices);
+    Json deviceList = Json::array();
+    for (const QRMDevice* device : devices) {
+        std::vector<QRMPCIInfo*> pcis;
+        device->GetPCIInfo(pcis);
+        Json pciList = Json::array();
+        for (const QRMPCIInfo* pci : pcis) {
+            pciList.push_back({{"vendor_id", Hex(pci->GetVendorID())},
+                               {"device_id", Hex(pci->GetDeviceID())},
+                               {"sub_vendor_id", Hex(pci->GetSubVendorID())},
+                               {"sub_device_id", Hex(pci->GetSubDeviceID())}});
+        }
+        deviceList.push_back(
+            {{"component_id", device->GetComponentID()}, {"display", FirstText(*device)}, {"pci", std::move(pciList)}});
+    }
+    const QRMCategory category = component.GetCategory();
+    const std::string path = Utf8(component.GetPath());
+    return {{"package_id", Utf8(component.GetPackageID())},
+            {"name", FirstText(component.GetName())},
+            {"vendor_version", Utf8(component.GetVendorVersion())},
+            {"release_id", Utf8(component.GetReleaseID())},
+            {"component_type", ComponentTypeWord(component.GetComponentType().GetValue())},
+            {"criticality", CriticalityWord(component.GetCriticality().GetValue())},
+            {"category", {{"code", Utf8(category.GetCode())}, {"text", FirstText(category)}}},
+            {"path", path},
+            {"location", base + "/" + path},
+            {"date_time", component.GetDateTime().GetValue()},
+            {"systems", SystemIDsOf(component.GetSupportedSystems())},
+            {"operating_systems", OSCodesOf(component.GetSupportedOperatingSystems())},
+            {"devices", std::move(deviceList)}};
+}
+
+}  // namespace
+
+Json CollectCatalogContents(const std::string& catalog)
+{
+    LoadCatalog(catalog);
+    QRMKitAPI* api = QRMKitAPI::Instance();
+    Json document = CatalogDocument(catalog);
+    const std::string base = Text(document["base_location"]);
+
+    std::vector<QRMSoftwareBundle*> bundles;
+    api->GetSoftwareBundles(bundles);
+    Json bundleList = Json::array();
+    for (const QRMSoftwareBundle* bundle : bundles) {
+        bundleList.push_back(BundleContents(*bundle));
+    }
+    std::vector<QRMSoftwareComponent*> components;
+    api->GetSoftwareComponents(components);
+    Json componentList = Json::array();
+    for (const QRMSoftwareComponent* component : components) {
+        componentList.push_back(ComponentContents(*component, base));
+    }
+    Json categories;
+    Json acronyms;
+    CategoryLists(categories, acronyms);
+
+    document["bundles"] = std::move(bundleList);
+    document["components"] = std::move(componentList);
+    document["categories"] = std::move(categories);
+    document["acronyms"] = std::move(acronyms);
+    document["inventory_collectors"] = CollectorList();
     return document;
 }
 

@@ -87,6 +87,14 @@ Json CollectInventory(const std::string& inventory);
 
 Json CollectCategories(const std::string& catalog);
 
+// Everything the catalog holds, listed: the catalog document's fields, then
+// every bundle (id, type, name, path, versions, systems, operating systems,
+// packages) and every component (ids, name, version, type, criticality,
+// category, path and location, systems, operating systems, supported
+// devices with their PCI ids) in catalog order, the categories as
+// CollectCategories gives them, and the inventory collectors.
+Json CollectCatalogContents(const std::string& catalog);
+
 // Where the inventory collector for an operating system code lies: the
 // document names the catalog, the code and the full location; rendered, the
 // location alone on a line.
