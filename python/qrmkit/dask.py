@@ -1,0 +1,1 @@
+"""Fleets over a Dask cluster."""

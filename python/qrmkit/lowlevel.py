@@ -1,0 +1,1 @@
+"""The library's own interface (placeholder until written)."""

@@ -1,0 +1,220 @@
+"""The Pythonic layer gives exactly the tool's answers."""
+
+import gzip
+import json
+import os
+import shutil
+import subprocess
+import sys
+from pathlib import Path
+
+import pytest
+
+import qrmkit
+from conftest import run_tool
+
+BUNDLE_TYPES = ["auto", "BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND"]
+
+
+def tool_updates(catalog, inventory, bundle_type="auto"):
+    return run_tool("updates", "--json", "--catalog", str(catalog), "--inventory", str(inventory),
+                    "--bundle-type", bundle_type)
+
+
+def test_updates_of_the_example_are_the_tools_entries(tool, examples):
+    document, status = tool_updates(examples / "catalog.xml", examples / "inventory.xml")
+    assert status == 0
+    result = qrmkit.updates(str(examples / "catalog.xml"), str(examples / "inventory.xml"))
+    assert len(result) == 10
+    assert [update.to_dict() for update in result] == document["updates"]
+    assert result.document == document
+
+
+def test_update_attributes_are_the_entries_members(tool, examples):
+    document, _ = tool_updates(examples / "catalog.xml", examples / "inventory.xml")
+    first = qrmkit.updates(examples / "catalog.xml", examples / "inventory.xml")[0]
+    entry = document["updates"][0]
+    assert set(entry) >= {"device", "application", "installed_version", "available_version", "status"}
+    for key, value in entry.items():
+        assert getattr(first, key) == value
+    with pytest.raises(AttributeError):
+        first.status = "older"
+    with pytest.raises(AttributeError):
+        first.no_such_member
+
+
+def test_to_dict_is_a_copy(examples):
+    update = qrmkit.updates(examples / "catalog.xml", examples / "inventory.xml")[0]
+    copy = update.to_dict()
+    copy["category"]["code"] = "changed"
+    assert update.category["code"] != "changed"
+    assert update.to_dict()["category"]["code"] != "changed"
+
+
+@pytest.mark.parametrize("bundle_type", BUNDLE_TYPES)
+def test_updates_of_generated_cases_are_the_tools_for_every_bundle_type(tool, generated, bundle_type):
+    compared = 0
+    for catalog, inventory in generated:
+        document, status = tool_updates(catalog, inventory, bundle_type)
+        if status == 4:
+            with pytest.raises(qrmkit.NoBundleError) as raised:
+                qrmkit.updates(catalog, inventory, bundle_type)
+            assert raised.value.to_dict() == document["error"]
+            continue
+        assert status in (0, 100)
+        result = qrmkit.updates(catalog, inventory, bundle_type=bundle_type)
+        assert result.document == document
+        compared += len(result)
+    if bundle_type in ("auto", "BTW64"):
+        assert compared > 0
+
+
+def test_explain_is_the_tools_explain(tool, examples, generated):
+    for catalog, inventory in [(examples / "catalog.xml", examples / "inventory.xml")] + generated:
+        document, status = run_tool("explain", "--json", "--catalog", str(catalog), "--inventory", str(inventory))
+        assert status == 0
+        result = qrmkit.explain(catalog, inventory)
+        assert [row.to_dict() for row in result] == document["applications"]
+        assert result.document == document
+        assert {row.outcome for row in result} <= set(document["summary"])
+
+
+def test_each_answer_sees_only_its_own_inventory(examples, generated):
+    (catalog, first), (_, second) = generated[0], generated[1]
+    before = qrmkit.updates(catalog, first).document
+    qrmkit.updates(catalog, second)
+    qrmkit.read_inventory(second)
+    assert qrmkit.updates(catalog, first).document == before
+    assert qrmkit.read_inventory(first).to_dict() == qrmkit.read_inventory(first).to_dict()
+
+
+def test_read_inventory_is_the_tools_inventory_document(tool, examples, generated):
+    for inventory in [examples / "inventory.xml"] + [pair[1] for pair in generated]:
+        document, status = run_tool("inventory", "--json", "--inventory", str(inventory))
+        assert status == 0
+        summary = qrmkit.read_inventory(inventory)
+        assert summary.to_dict() == document
+        assert isinstance(summary.devices[0], qrmkit.Device)
+        assert [device.to_dict() for device in summary.devices] == document["devices"]
+        assert [app.to_dict() for app in summary.devices[0].applications] == document["devices"][0]["applications"]
+
+
+def test_read_catalog_lists_what_the_tools_catalog_counts(tool, examples, generated):
+    for catalog in [examples / "catalog.xml"] + [pair[0] for pair in generated]:
+        counts, _ = run_tool("catalog", "--json", "--catalog", str(catalog))
+        categories, _ = run_tool("categories", "--json", "--catalog", str(catalog))
+        summary = qrmkit.read_catalog(catalog)
+        assert len(summary.bundles) == counts["bundles"]["total"]
+        assert len(summary.components) == counts["components"]["total"]
+        for word, count in counts["components"]["by_type"].items():
+            assert sum(1 for c in summary.components if c.component_type == word) == count
+        for key in ("base_location", "release_id", "version", "date_time"):
+            assert getattr(summary, key) == counts[key]
+        assert [c.to_dict() for c in summary.inventory_collectors] == counts["inventory_collectors"]
+        assert [c.to_dict() for c in summary.categories] == categories["categories"]
+        assert summary.acronyms == categories["acronyms"]
+
+
+def test_read_catalog_bundles_hold_the_packages_the_updates_come_from(examples):
+    summary = qrmkit.read_catalog(examples / "catalog.xml")
+    result = qrmkit.updates(examples / "catalog.xml", examples / "inventory.xml")
+    bundle = next(b for b in summary.bundles if b.id == result.document["bundle"]["id"])
+    assert len(bundle.packages) == result.document["bundle"]["packages"]
+    assert "0A6B" in bundle.systems
+    listed = {(c.package_id, c.path, c.vendor_version) for c in summary.components}
+    for update in result:
+        assert (update.package_id, update.path, update.available_version) in listed
+
+
+def test_compare_version_is_the_librarys(tool):
+    cases = [("1.2.10", "1.2.9", 1), ("1.0", "1.0.0", -1), ("01.2", "1.2", 0), ("A05", "A5", 1),
+             ("", "", 0), ("2.0", "10.0", -1), ("1.0a", "1.0b", -1)]
+    for first, second, expected in cases:
+        assert qrmkit.compare_version(first, second) == expected
+        document, status = run_tool("compare", "--json", first, second)
+        assert status == 0 and document["order"] == expected
+    assert qrmkit.compare_version("1.0", "1.0\u00e9") == -2
+    with pytest.raises(TypeError):
+        qrmkit.compare_version(1, "1")
+
+
+def test_paths_may_be_str_bytes_or_pathlike(examples):
+    expected = qrmkit.updates(str(examples / "catalog.xml"), str(examples / "inventory.xml")).document
+    assert qrmkit.updates(examples / "catalog.xml", examples / "inventory.xml").document == expected
+    assert qrmkit.updates(os.fsencode(examples / "catalog.xml"),
+                          os.fsencode(examples / "inventory.xml")).document == expected
+    with pytest.raises(TypeError):
+        qrmkit.updates(12, examples / "inventory.xml")
+
+
+def test_compressed_input_is_read_as_the_tool_reads_it(tool, examples, tmp_path):
+    packed = tmp_path / "catalog.xml.gz"
+    packed.write_bytes(gzip.compress((examples / "catalog.xml").read_bytes()))
+    document, status = tool_updates(packed, examples / "inventory.xml")
+    assert status == 0
+    result = qrmkit.updates(packed, examples / "inventory.xml")
+    assert result.document == document
+    assert len(result) == 10
+
+
+def test_standard_input_is_read_for_a_dash(tool, examples):
+    script = ("import json, qrmkit; r = qrmkit.updates('-', %r); print(json.dumps(r.document))"
+              % str(examples / "inventory.xml"))
+    done = subprocess.run([sys.executable, "-c", script], input=(examples / "catalog.xml").read_bytes(),
+                          stdout=subprocess.PIPE, check=True)
+    document, _ = run_tool("updates", "--json", "--catalog", "-", "--inventory", str(examples / "inventory.xml"),
+                           stdin=(examples / "catalog.xml").read_bytes())
+    assert json.loads(done.stdout) == document
+
+
+def fleet_tool(catalog, inventories, *extra):
+    lines, status = run_tool("fleet", "--format", "jsonl", "--catalog", str(catalog), *extra,
+                             *[str(i) for i in inventories])
+    return lines, status
+
+
+def test_fleet_gives_the_tools_lines_in_input_order(tool, generated, tmp_path):
+    catalog = generated[1][0]
+    broken = tmp_path / "broken.xml"
+    broken.write_text("<Inventory><System")
+    inventories = [pair[1] for pair in generated] + [tmp_path / "missing.xml", broken, generated[0][1]]
+    expected, status = fleet_tool(catalog, inventories)
+    assert status == 3
+    for jobs in (1, 2, None):
+        results = list(qrmkit.fleet(catalog, inventories, jobs=jobs))
+        assert results == expected
+    assert [r["inventory"] for r in results] == [str(i) for i in inventories]
+    assert results[4]["error"]["code"] == "file-missing"
+    assert results[5]["error"]["code"] == "not-xml"
+
+
+def test_fleet_expands_a_directory_as_the_tool_does(tool, generated, tmp_path):
+    directory = tmp_path / "fleet"
+    directory.mkdir()
+    for index, (_, inventory) in enumerate(generated):
+        shutil.copy(inventory, directory / f"computer-{index}.xml")
+    (directory / ".hidden.xml").write_text("not read")
+    (directory / "notes.txt").write_text("not read")
+    expected, _ = fleet_tool(generated[0][0], [directory])
+    assert len(expected) == len(generated)
+    assert list(qrmkit.fleet(generated[0][0], directory)) == expected
+    assert list(qrmkit.fleet(generated[0][0], [str(directory)], bundle_type="BTW64")) == \
+        fleet_tool(generated[0][0], [directory], "--bundle-type", "BTW64")[0]
+
+
+def test_fleet_can_be_stopped_early(generated):
+    catalog = generated[0][0]
+    inventories = [generated[0][1]] * 20
+    with qrmkit.fleet(catalog, inventories, jobs=2) as results:
+        first = next(results)
+    assert first["inventory"] == str(generated[0][1])
+    with pytest.raises(StopIteration):
+        next(results)
+
+
+def test_fleet_with_an_unreadable_catalog_raises(tmp_path, generated):
+    with pytest.raises(qrmkit.FileMissingError) as raised:
+        qrmkit.fleet(tmp_path / "none.xml", [generated[0][1]])
+    assert raised.value.file == str(tmp_path / "none.xml")
+    with pytest.raises(qrmkit.NotACatalogError):
+        qrmkit.fleet(generated[0][1], [generated[0][1]])
