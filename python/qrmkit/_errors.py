@@ -27,6 +27,14 @@ class Error(Exception):
         """The error as the tool's JSON writes it: code, message, file."""
         return {"code": self.code, "message": self.message, "file": self.file}
 
+    def __reduce__(self) -> Any:
+        # Errors cross process boundaries (Dask workers) whole.
+        return (_rebuild, (type(self), self.message, self.code, self.file))
+
+
+def _rebuild(cls: Type["Error"], message: str, code: str, file: Optional[str]) -> "Error":
+    return cls(message, code=code, file=file)
+
 
 class UsageError(Error, ValueError):
     """A bad argument: an unknown bundle type, standard input named twice."""

@@ -50,8 +50,7 @@ std::string Updates(const std::string& catalog, const std::string& inventory, co
 
 std::string Explain(const std::string& catalog, const std::string& inventory, const std::string& bundleType)
 {
-    return Isolated({catalog, inventory},
-                    [&] { return qrmtool::CollectExplanation(catalog, inventory, bundleType); });
+    return Isolated({catalog, inventory}, [&] { return qrmtool::CollectExplanation(catalog, inventory, bundleType); });
 }
 
 std::string CatalogContents(const std::string& catalog)
@@ -70,8 +69,8 @@ std::string InventoryContents(const std::string& inventory)
 // cannot be read gives a single error document instead.
 class FleetStream {
 public:
-    FleetStream(const std::string& catalog, const std::vector<std::string>& inventories,
-                const std::string& bundleType, unsigned jobs, double timeoutSeconds)
+    FleetStream(const std::string& catalog, const std::vector<std::string>& inventories, const std::string& bundleType,
+                unsigned jobs, double timeoutSeconds)
     {
         std::vector<std::string> named = inventories;
         named.push_back(catalog);
@@ -191,10 +190,21 @@ void DefineIsolated(py::module_& module)
                "Every bundle, component, category and collector of a catalog, as JSON text.");
     module.def("_inventory_contents", &InventoryContents, py::arg("inventory"),
                "The `qrmkit inventory --json` document as JSON text (or its error document).");
+    module.def(
+        "_list_fleet",
+        [](const std::vector<std::string>& arguments) {
+            py::list paths;
+            for (const qrmtool::FleetInput& input : qrmtool::ListFleet(arguments)) {
+                paths.append(py::bytes(input.path));
+            }
+            return paths;
+        },
+        py::arg("arguments"),
+        "The inventories the arguments name, as `qrmkit fleet` lists them (a directory: its *.xml files, by "
+        "name); an argument that cannot be listed is kept as it is.");
     py::class_<FleetStream>(module, "_FleetStream", "The lines of `qrmkit fleet --format jsonl`, as they come.")
         .def(py::init<const std::string&, const std::vector<std::string>&, const std::string&, unsigned, double>(),
-             py::arg("catalog"), py::arg("inventories"), py::arg("bundle_type"), py::arg("jobs"),
-             py::arg("timeout"))
+             py::arg("catalog"), py::arg("inventories"), py::arg("bundle_type"), py::arg("jobs"), py::arg("timeout"))
         .def("next", &FleetStream::Next, "The next line, or None at the end.")
         .def("close", &FleetStream::Close, "Stops the evaluation.");
 }

@@ -8,9 +8,6 @@ namespace py = pybind11;
 
 namespace qrmpy {
 
-void DefineLowLevel(py::module_& module)
-{
-    (void)module;
-}
+void DefineLowLevel(py::module_& module) { (void)module; }
 
 }  // namespace qrmpy
