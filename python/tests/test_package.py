@@ -1,6 +1,7 @@
 """The package as a whole: its stubs, its docstrings and its example."""
 
 import ast
+import gzip
 import inspect
 import os
 import subprocess
@@ -71,3 +72,22 @@ def test_the_example_prints_the_pending_updates_of_a_fleet(tool, generated, tmp_
         assert f"{result['inventory']}: system {result['system_id']}, {newer} pending" in lines
     assert total > 0
     assert lines[-1] == f"{len(expected)} computers, {total} pending updates, 1 not evaluated"
+
+
+def test_the_worked_example_of_the_guide_runs(examples, tmp_path):
+    guide = (SOURCE / "docs" / "python.md").read_text()
+    start = guide.index("## A worked example")
+    code = guide[guide.index("```python\n", start) + len("```python\n"):]
+    code = code[:code.index("```")]
+    (tmp_path / "catalog.xml").write_bytes((examples / "catalog.xml").read_bytes())
+    (tmp_path / "inventory.xml").write_bytes((examples / "inventory.xml").read_bytes())
+    (tmp_path / "catalog.xml.gz").write_bytes(gzip.compress((examples / "catalog.xml").read_bytes()))
+    (tmp_path / "inventories").mkdir()
+    (tmp_path / "inventories" / "a.xml").write_bytes((examples / "inventory.xml").read_bytes())
+    done = subprocess.run([sys.executable, "-c", code], cwd=tmp_path, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, check=False)
+    output = done.stdout.decode()
+    assert done.returncode == 0, output
+    assert "S740W64.00041 10 updates" in output
+    assert "inventories/a.xml 7 newer" in output
+    assert "file-missing missing.xml missing.xml: the file does not exist" in output
