@@ -181,6 +181,30 @@ void DefineLowLevel(py::module_& module)
     DefineEnums(module);
     DefineValueClasses(module);
 
+    // How texts cross, unit by unit: the catalog and inventory readers turn
+    // a lone surrogate into U+FFFD, so no document can show that one passes
+    // through unchanged.
+    module.def(
+        "_velstring_units",
+        [](const VELString& text) {
+            std::u16string_view units = text.GetUTF16View();
+            return std::vector<unsigned int>(units.begin(), units.end());
+        },
+        py::arg("text"), "The UTF-16 code units of the library's text made from a str.");
+    module.def(
+        "_velstring_from_units",
+        [](const std::vector<unsigned int>& units) {
+            std::u16string text;
+            for (unsigned int unit : units) {
+                if (unit > 0xFFFF) {
+                    throw py::value_error("a UTF-16 code unit is at most 0xFFFF");
+                }
+                text.push_back(static_cast<char16_t>(unit));
+            }
+            return VELString(std::move(text));
+        },
+        py::arg("units"), "The str of the library's text made of these UTF-16 code units.");
+
     py::class_<QRMKitAPI, std::unique_ptr<QRMKitAPI, py::nodelete>> api(
         module, "QRMKitAPI",
         "The library's single entry object: QRMKitAPI.Instance(). It owns the catalog store (emptied by Reset and "
