@@ -206,9 +206,10 @@ void DefineLowLevel(py::module_& module)
         py::arg("units"), "The str of the library's text made of these UTF-16 code units.");
 
     py::class_<QRMKitAPI, std::unique_ptr<QRMKitAPI, py::nodelete>> api(
-        module, "QRMKitAPI",
+        module, "QRMKitAPI", py::is_final(),
         "The library's single entry object: QRMKitAPI.Instance(). It owns the catalog store (emptied by Reset and "
         "every Parse(path)) and the inventory store (filled by ParseInventory, never emptied).");
+    RefuseInstancesFromPython(api);
     gInstance = new py::object(py::cast(QRMKitAPI::Instance(), py::return_value_policy::reference));
 
     api.def_static(

@@ -168,6 +168,15 @@ auto Locked(F&& call) -> decltype(call())
     return call();
 }
 
+// Only the library hands out these objects: Python can neither call the
+// class nor its __new__ (an object made without a library object behind it
+// would read from nowhere). The classes are final as well.
+inline void RefuseInstancesFromPython(py::handle cls)
+{
+    reinterpret_cast<PyTypeObject*>(cls.ptr())->tp_new = nullptr;
+    PyType_Modified(reinterpret_cast<PyTypeObject*>(cls.ptr()));
+}
+
 // The IntEnum classes, made once when the module is loaded.
 enum class EnumKind {
     ReturnCode,

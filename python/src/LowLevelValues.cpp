@@ -17,7 +17,11 @@ namespace {
 template <class T>
 class ValueClass {
 public:
-    ValueClass(py::module_& module, const char* name, const char* doc) : mClass(module, name, doc), mName(name) {}
+    ValueClass(py::module_& module, const char* name, const char* doc)
+        : mClass(module, name, doc, py::is_final()), mName(name)
+    {
+        RefuseInstancesFromPython(mClass);
+    }
 
     // A getter reading the object: `read(const T&)` gives what Python gets.
     template <class F>

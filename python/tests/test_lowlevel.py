@@ -91,6 +91,40 @@ def test_the_api_object_is_one_and_cannot_be_made():
     """)
 
 
+def test_only_the_library_makes_objects():
+    run("""
+        import copy, pickle
+        classes = [getattr(lowlevel, name) for name in lowlevel.__all__]
+        classes = [cls for cls in classes if isinstance(cls, type) and cls.__module__.startswith("qrmkit._qrmkit")]
+        assert QRMKitAPI in classes and QRMDisplay in classes and QRMSoftwareComponent in classes
+        for cls in classes:
+            for make in (lambda: cls(), lambda: cls.__new__(cls), lambda: object.__new__(cls)):
+                try:
+                    make()
+                except TypeError:
+                    pass
+                else:
+                    raise AssertionError(f"{cls.__name__} made from Python")
+            try:
+                type("Derived", (cls,), {})
+            except TypeError:
+                pass
+            else:
+                raise AssertionError(f"{cls.__name__} subclassed")
+        api.Parse(CATALOG)
+        component = api.GetSoftwareComponents()[0]
+        for call in (lambda: pickle.dumps(component), lambda: copy.copy(component),
+                     lambda: copy.deepcopy(component.GetName()), lambda: QRMDisplay.GetValue(component),
+                     lambda: component.GetName().GetDisplayValues()[0].GetValue.__func__(api)):
+            try:
+                call()
+            except (TypeError, AttributeError):
+                pass
+            else:
+                raise AssertionError("accepted")
+    """)
+
+
 def test_return_codes_are_the_intenum_and_equal_the_librarys(tmp_path):
     (tmp_path / "not-xml.xml").write_text("this is not XML <<<")
     run("""
