@@ -181,6 +181,20 @@ void DefineLowLevel(py::module_& module)
     DefineEnums(module);
     DefineValueClasses(module);
 
+    // What a getter gives for a value of an enumeration: the library's
+    // readers only store listed values, so no document shows a value outside.
+    module.def(
+        "_enum_value",
+        [](const std::string& name, int value) {
+            for (int kind = 0; kind < static_cast<int>(EnumKind::Count); ++kind) {
+                if (gEnums[kind] != nullptr && gEnums[kind]->attr("__name__").cast<std::string>() == name) {
+                    return EnumValue(static_cast<EnumKind>(kind), value);
+                }
+            }
+            throw py::value_error("no such enumeration: " + name);
+        },
+        py::arg("name"), py::arg("value"), "The member of the enumeration for the value, or the plain int.");
+
     // How texts cross, unit by unit: the catalog and inventory readers turn
     // a lone surrogate into U+FFFD, so no document can show that one passes
     // through unchanged.

@@ -301,6 +301,14 @@ def test_enumerations_are_intenums_that_take_and_give_ints():
                 pass
             else:
                 raise AssertionError(f"{bad!r} taken as a bundle type")
+        # A value outside an enumeration comes back as the plain int.
+        assert _ll._enum_value("QRMKitReturnCode", 4) is QRMKitReturnCode.QRM_KIT_NOT_FOUND
+        for name in ("QRMKitReturnCode", "QRMBundleTypeEnum", "QRMComponentTypeValueEnum", "QRMSystemIDTypeEnum"):
+            for value in (2, 99, -1):
+                if name != "QRMKitReturnCode" and value == 2:
+                    continue
+                outside = _ll._enum_value(name, value)
+                assert type(outside) is int and outside == value, (name, value, outside)
         code, devices = api.GetInventory()
         types = [a.GetComponentType() for d in devices for a in d.GetApplications()]
         assert types and all(type(t) is QRMComponentTypeValueEnum for t in types)
