@@ -372,7 +372,7 @@ def compare_version(first: str, second: str) -> int:
     not ASCII text."""
     if not isinstance(first, str) or not isinstance(second, str):
         raise TypeError("compare_version takes two str")
-    return int(_qrmkit._compare_version(first, second))
+    return int(_qrmkit.lowlevel.QRMKitAPI.Instance().CompareVersion(first, second))
 
 
 # ---------------------------------------------------------------- fleet

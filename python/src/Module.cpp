@@ -3,7 +3,6 @@
 #include <QRMKit.h>
 
 #include <atomic>
-#include <string>
 
 namespace py = pybind11;
 
@@ -37,15 +36,6 @@ PYBIND11_MODULE(_qrmkit, module)
     module.attr("library_version") = QRMKitVersion();
     module.def("_stores_touched", &qrmpy::StoresTouched,
                "Whether the low-level layer has read a document into this process's stores.");
-    module.def(
-        "_compare_version",
-        [](const std::string& first, const std::string& second) {
-            py::gil_scoped_release released;
-            qrmpy::LibraryLock lock;
-            return QRMKitAPI::Instance()->CompareVersion(VELString::FromUTF8(first.data(), first.size()),
-                                                         VELString::FromUTF8(second.data(), second.size()));
-        },
-        py::arg("first"), py::arg("second"), "QRMKitAPI::CompareVersion of two UTF-8 texts.");
     qrmpy::DefineIsolated(module);
     py::module_ lowlevel = module.def_submodule("lowlevel", "The library's own interface.");
     qrmpy::DefineLowLevel(lowlevel);

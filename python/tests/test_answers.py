@@ -134,6 +134,7 @@ def test_compare_version_is_the_librarys(tool):
         document, status = run_tool("compare", "--json", first, second)
         assert status == 0 and document["order"] == expected
     assert qrmkit.compare_version("1.0", "1.0\u00e9") == -2
+    assert qrmkit.compare_version("\ud800", "1") == -2
     with pytest.raises(TypeError):
         qrmkit.compare_version(1, "1")
 
