@@ -91,3 +91,18 @@ def test_the_worked_example_of_the_guide_runs(examples, tmp_path):
     assert "S740W64.00041 10 updates" in output
     assert "inventories/a.xml 7 newer" in output
     assert "file-missing missing.xml missing.xml: the file does not exist" in output
+
+
+def test_the_low_level_example_of_the_guide_runs(examples, tmp_path):
+    guide = (SOURCE / "docs" / "python.md").read_text()
+    start = guide.index("## The low-level layer")
+    code = guide[guide.index("```python\n", start) + len("```python\n"):]
+    code = code[:code.index("```")]
+    for name in ("catalog.xml", "inventory.xml"):
+        (tmp_path / name).write_bytes((examples / name).read_bytes())
+    done = subprocess.run([sys.executable, "-c", code], cwd=tmp_path, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT, check=False)
+    output = done.stdout.decode()
+    assert done.returncode == 0, output
+    assert "BIOS 2.3.9 -> 2.4.1" in output
+    assert len(output.splitlines()) == 10
