@@ -1,12 +1,13 @@
-// QRMIApplication and QRMIDevice: the inventory's devices and the
-// applications installed for them: field storage, the application list,
-// copying, assignment and equality.
-#include "QRMIApplication.h"
+// QRMIDevice: a device of the inventory and the applications installed for
+// it; fields, the application list, copying, and how two compare.
 #include "QRMIDevice.h"
+#include "QRMIApplication.h"
 
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
+
+#include <ostream>
 
 #include <string>
 #include <utility>
@@ -46,194 +47,93 @@ QRMIDevice FilledDevice()
     return device;
 }
 
+// Two QRMIDevice objects built alike, then one or both changed as the case says
+// (usually in one field); the case also says whether they still compare
+// equal. Each pair is compared with == and != both ways round.
+struct InventoryDeviceDifference {
+    const char* name;
+    void (*change)(QRMIDevice& left, QRMIDevice& right);
+    bool equal;
+};
+
+void PrintTo(const InventoryDeviceDifference& difference, std::ostream* out) { *out << difference.name; }
+
+const InventoryDeviceDifference kInventoryDeviceDifferences[] = {
+    {"DevicesWithDifferentApplicationsCompareEqual",
+     [](QRMIDevice& left, QRMIDevice& right) {
+         left.AddApplication(Application("Driver", "1.0"));
+         right.AddApplication(Application("Driver", "2.0"));
+     },
+     true},
+    {"NumberOfApplicationsIsNotCompared",
+     [](QRMIDevice& left, QRMIDevice&) {
+         left.AddApplication(Application("Driver", "1.0"));
+         left.AddApplication(Application("Firmware", "3.0"));
+     },
+     true},
+    {"ASharedApplicationAnywhereMakesDevicesUnequal",
+     [](QRMIDevice& left, QRMIDevice& right) {
+         left = QRMIDevice();
+         right = QRMIDevice();
+         left.AddApplication(Application("a", "1"));
+         left.AddApplication(Application("b", "2"));
+         right.AddApplication(Application("c", "3"));
+         right.AddApplication(Application("b", "2"));
+     },
+     false},
+    {"DisplayMakesDevicesUnequal",
+     [](QRMIDevice&, QRMIDevice& right) { right.SetDisplay(VELString("ethernet controller")); }, false},
+    {"BusMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetBus(9); }, false},
+    {"DeviceNumberMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetDevice(9); }, false},
+    {"FunctionMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetFunction(9); }, false},
+    {"ComponentIDMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetComponentID(9); }, false},
+    {"VendorIDMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetVendorID(9); }, false},
+    {"DeviceIDMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetDeviceID(9); }, false},
+    {"SubDeviceIDMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetSubDeviceID(9); }, false},
+    {"SubVendorIDMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetSubVendorID(9); }, false},
+    {"ComponentInstanceMakesDevicesUnequal", [](QRMIDevice&, QRMIDevice& right) { right.SetComponentInstance(9); },
+     false},
+    {"SameLanguageWithDifferentTextsMakesDevicesUnequal",
+     [](QRMIDevice& left, QRMIDevice& right) {
+         left = QRMIDevice();
+         right = QRMIDevice();
+         left.AddDisplayValue(VELString("en"), VELString("X"));
+         right.AddDisplayValue(VELString("en"), VELString("Y"));
+     },
+     false},
+    {"NumberOfTextsIsNotCompared",
+     [](QRMIDevice& left, QRMIDevice& right) {
+         left = QRMIDevice();
+         right = QRMIDevice();
+         left.AddDisplayValue(VELString("en"), VELString("X"));
+         right.AddDisplayValue(VELString("en"), VELString("X"));
+         right.AddDisplayValue(VELString("fr"), VELString("Y"));
+     },
+     true},
+    {"OneTextEachInDifferentLanguagesCompareEqual",
+     [](QRMIDevice& left, QRMIDevice& right) {
+         left = QRMIDevice();
+         right = QRMIDevice();
+         left.AddDisplayValue(VELString("en"), VELString("X"));
+         right.AddDisplayValue(VELString("fr"), VELString("Y"));
+     },
+     true},
+    {"DifferingTextInALongerListMakesDevicesUnequal",
+     [](QRMIDevice& left, QRMIDevice& right) {
+         left = QRMIDevice();
+         right = QRMIDevice();
+         left.AddDisplayValue(VELString("de"), VELString("Z"));
+         right.AddDisplayValue(VELString("fr"), VELString("Y"));
+         right.AddDisplayValue(VELString("de"), VELString("W"));
+     },
+     false},
+};
+
+class QRMIDeviceEquality : public testing::TestWithParam<InventoryDeviceDifference> {};
+
 }  // namespace
 
 // ============================================================ application
-
-TEST(QRMIApplicationDefaults, NewApplicationHasComponentTypeZeroAndEmptyFields)
-{
-    QRMIApplication application;
-    EXPECT_EQ(QRM_COMPONENT_SBDL, application.GetComponentType());
-    EXPECT_EQ(0, static_cast<int>(application.GetComponentType()));
-    EXPECT_EQ("", Str(application.GetVersion()));
-    EXPECT_EQ("", Str(application.GetDisplay()));
-    EXPECT_EQ("", Str(application.GetSubComponentID()));
-    EXPECT_TRUE(TextsOf(application).empty());
-}
-
-TEST(QRMIApplicationDefaults, TwoNewApplicationsAreEqual)
-{
-    QRMIApplication left, right;
-    EXPECT_TRUE(left == right);
-    EXPECT_FALSE(left != right);
-}
-
-TEST(QRMIApplicationFields, SetComponentTypeReturnsSuccessAndStoresTheValue)
-{
-    QRMIApplication application;
-    EXPECT_EQ(QRM_KIT_SUCCESS, application.SetComponentType(QRM_COMPONENT_BIOS));
-    EXPECT_EQ(QRM_COMPONENT_BIOS, application.GetComponentType());
-}
-
-TEST(QRMIApplicationFields, SetVersionReturnsSuccessAndStoresTheText)
-{
-    QRMIApplication application;
-    EXPECT_EQ(QRM_KIT_SUCCESS, application.SetVersion(VELString("12.4.0.7")));
-    EXPECT_EQ("12.4.0.7", Str(application.GetVersion()));
-}
-
-TEST(QRMIApplicationFields, SetDisplayReturnsSuccessAndStoresTheText)
-{
-    QRMIApplication application;
-    EXPECT_EQ(QRM_KIT_SUCCESS, application.SetDisplay(VELString("Network driver")));
-    EXPECT_EQ("Network driver", Str(application.GetDisplay()));
-}
-
-TEST(QRMIApplicationFields, SetSubComponentIDReturnsSuccessAndStoresTheText)
-{
-    QRMIApplication application;
-    EXPECT_EQ(QRM_KIT_SUCCESS, application.SetSubComponentID(VELString("SUB-7")));
-    EXPECT_EQ("SUB-7", Str(application.GetSubComponentID()));
-}
-
-TEST(QRMIApplicationDisplayValues, AddReturnsSuccessThenAlreadyExistsAndKeepsTheFirstText)
-{
-    QRMIApplication application;
-    EXPECT_EQ(QRM_KIT_SUCCESS, application.AddDisplayValue(VELString("en"), VELString("A")));
-    EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, application.AddDisplayValue(VELString("en"), VELString("B")));
-    EXPECT_EQ((Texts{{"en", "A"}}), TextsOf(application));
-}
-
-TEST(QRMIApplicationDisplayValues, RemoveReturnsNotFoundThenSuccess)
-{
-    QRMIApplication application;
-    EXPECT_EQ(QRM_KIT_NOT_FOUND, application.RemoveDisplayValue(VELString("en")));
-    application.AddDisplayValue(VELString("en"), VELString("A"));
-    EXPECT_EQ(QRM_KIT_SUCCESS, application.RemoveDisplayValue(VELString("en")));
-    EXPECT_TRUE(TextsOf(application).empty());
-}
-
-TEST(QRMIApplicationEquality, ComponentTypeMakesApplicationsUnequal)
-{
-    QRMIApplication left = Application("d", "1");
-    QRMIApplication right = Application("d", "1");
-    right.SetComponentType(QRM_COMPONENT_FRMW);
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMIApplicationEquality, VersionMakesApplicationsUnequal)
-{
-    EXPECT_FALSE(Application("d", "1.0") == Application("d", "1.1"));
-}
-
-TEST(QRMIApplicationEquality, VersionIsComparedCaseSensitively)
-{
-    EXPECT_FALSE(Application("d", "A05") == Application("d", "a05"));
-}
-
-TEST(QRMIApplicationEquality, DisplayMakesApplicationsUnequal)
-{
-    EXPECT_FALSE(Application("one", "1") == Application("two", "1"));
-}
-
-TEST(QRMIApplicationEquality, SubComponentIDMakesApplicationsUnequal)
-{
-    EXPECT_FALSE(Application("d", "1", "a") == Application("d", "1", "b"));
-    EXPECT_TRUE(Application("d", "1", "a") != Application("d", "1", "b"));
-}
-
-TEST(QRMIApplicationEquality, SameLanguageWithDifferentTextsMakesApplicationsUnequal)
-{
-    QRMIApplication left = Application("d", "1");
-    QRMIApplication right = Application("d", "1");
-    left.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("en"), VELString("Y"));
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMIApplicationEquality, OneTextEachInDifferentLanguagesCompareEqual)
-{
-    QRMIApplication left = Application("d", "1");
-    QRMIApplication right = Application("d", "1");
-    left.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("fr"), VELString("Y"));
-    EXPECT_TRUE(left == right);
-    EXPECT_FALSE(left != right);
-}
-
-TEST(QRMIApplicationEquality, DifferentNumbersOfTextsMakeApplicationsUnequal)
-{
-    QRMIApplication left = Application("d", "1");
-    QRMIApplication right = Application("d", "1");
-    left.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("fr"), VELString("Y"));
-    EXPECT_FALSE(left == right);
-    EXPECT_FALSE(right == left);
-}
-
-TEST(QRMIApplicationEquality, OrderOfTextsDoesNotMatter)
-{
-    QRMIApplication left = Application("d", "1");
-    QRMIApplication right = Application("d", "1");
-    left.AddDisplayValue(VELString("en"), VELString("X"));
-    left.AddDisplayValue(VELString("fr"), VELString("Y"));
-    right.AddDisplayValue(VELString("fr"), VELString("Y"));
-    right.AddDisplayValue(VELString("en"), VELString("X"));
-    EXPECT_TRUE(left == right);
-}
-
-TEST(QRMIApplicationCopy, CopyCarriesEveryFieldAndItsOwnTexts)
-{
-    QRMIApplication application = Application("Driver", "2.0", "S1");
-    application.AddDisplayValue(VELString("en"), VELString("X"));
-    application.AddDisplayValue(VELString("de"), VELString("Z"));
-    QRMIApplication copy(application);
-    EXPECT_EQ(QRM_COMPONENT_DRVR, copy.GetComponentType());
-    EXPECT_EQ("2.0", Str(copy.GetVersion()));
-    EXPECT_EQ("Driver", Str(copy.GetDisplay()));
-    EXPECT_EQ("S1", Str(copy.GetSubComponentID()));
-    EXPECT_EQ((Texts{{"en", "X"}, {"de", "Z"}}), TextsOf(copy));
-    EXPECT_TRUE(copy == application);
-
-    copy.RemoveDisplayValue(VELString("de"));
-    copy.AddDisplayValue(VELString("es"), VELString("W"));
-    EXPECT_EQ((Texts{{"en", "X"}, {"de", "Z"}}), TextsOf(application));
-}
-
-TEST(QRMIApplicationCopy, AssignmentReplacesFieldsAndTexts)
-{
-    QRMIApplication source = Application("Driver", "2.0", "S1");
-    source.AddDisplayValue(VELString("en"), VELString("X"));
-    QRMIApplication target = Application("Other", "1.0", "S2");
-    target.SetComponentType(QRM_COMPONENT_APP);
-    target.AddDisplayValue(VELString("fr"), VELString("Old"));
-    target.AddDisplayValue(VELString("de"), VELString("Alt"));
-
-    target = source;
-
-    EXPECT_EQ(QRM_COMPONENT_DRVR, target.GetComponentType());
-    EXPECT_EQ("2.0", Str(target.GetVersion()));
-    EXPECT_EQ("Driver", Str(target.GetDisplay()));
-    EXPECT_EQ("S1", Str(target.GetSubComponentID()));
-    EXPECT_EQ((Texts{{"en", "X"}}), TextsOf(target));
-    EXPECT_TRUE(target == source);
-}
-
-TEST(QRMIApplicationCopy, SelfAssignmentEmptiesTextsAndKeepsFields)
-{
-    QRMIApplication application = Application("Driver", "2.0", "S1");
-    application.AddDisplayValue(VELString("en"), VELString("X"));
-    QRMIApplication& alias = application;
-    application = alias;
-    EXPECT_TRUE(TextsOf(application).empty());
-    EXPECT_EQ(QRM_COMPONENT_DRVR, application.GetComponentType());
-    EXPECT_EQ("2.0", Str(application.GetVersion()));
-    EXPECT_EQ("Driver", Str(application.GetDisplay()));
-    EXPECT_EQ("S1", Str(application.GetSubComponentID()));
-}
 
 // ================================================================= device
 
@@ -572,7 +472,7 @@ TEST(QRMIDeviceApplications, RemoveApplicationTakesOutEqualEntriesThatAreNotAdja
 
 // ================================================================ equality
 
-TEST(QRMIDeviceEquality, CopyWithoutApplicationsComparesEqual)
+TEST_F(QRMIDeviceEquality, CopyWithoutApplicationsComparesEqual)
 {
     QRMIDevice device = FilledDevice();
     QRMIDevice copy(device);
@@ -580,7 +480,7 @@ TEST(QRMIDeviceEquality, CopyWithoutApplicationsComparesEqual)
     EXPECT_FALSE(device != copy);
 }
 
-TEST(QRMIDeviceEquality, CopyWithOneApplicationComparesUnequal)
+TEST_F(QRMIDeviceEquality, CopyWithOneApplicationComparesUnequal)
 {
     QRMIDevice device = FilledDevice();
     device.AddApplication(Application("Driver", "1.0"));
@@ -589,7 +489,7 @@ TEST(QRMIDeviceEquality, CopyWithOneApplicationComparesUnequal)
     EXPECT_TRUE(device != copy);
 }
 
-TEST(QRMIDeviceEquality, DeviceWithAnApplicationIsUnequalToItself)
+TEST_F(QRMIDeviceEquality, DeviceWithAnApplicationIsUnequalToItself)
 {
     QRMIDevice device;
     device.AddApplication(Application("Driver", "1.0"));
@@ -597,153 +497,21 @@ TEST(QRMIDeviceEquality, DeviceWithAnApplicationIsUnequalToItself)
     EXPECT_FALSE(device == alias);
 }
 
-TEST(QRMIDeviceEquality, DevicesWithDifferentApplicationsCompareEqual)
+TEST_P(QRMIDeviceEquality, FieldDiffers)
 {
     QRMIDevice left = FilledDevice();
     QRMIDevice right = FilledDevice();
-    left.AddApplication(Application("Driver", "1.0"));
-    right.AddApplication(Application("Driver", "2.0"));
-    EXPECT_TRUE(left == right);
+    GetParam().change(left, right);
+    EXPECT_EQ(GetParam().equal, left == right);
+    EXPECT_EQ(!GetParam().equal, left != right);
+    EXPECT_EQ(GetParam().equal, right == left);
+    EXPECT_EQ(!GetParam().equal, right != left);
 }
 
-TEST(QRMIDeviceEquality, NumberOfApplicationsIsNotCompared)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    left.AddApplication(Application("Driver", "1.0"));
-    left.AddApplication(Application("Firmware", "3.0"));
-    EXPECT_TRUE(left == right);
-    EXPECT_TRUE(right == left);
-}
-
-TEST(QRMIDeviceEquality, ASharedApplicationAnywhereMakesDevicesUnequal)
-{
-    QRMIDevice left, right;
-    left.AddApplication(Application("a", "1"));
-    left.AddApplication(Application("b", "2"));
-    right.AddApplication(Application("c", "3"));
-    right.AddApplication(Application("b", "2"));
-    EXPECT_FALSE(left == right);
-    EXPECT_FALSE(right == left);
-}
-
-TEST(QRMIDeviceEquality, DisplayMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetDisplay(VELString("ethernet controller"));
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMIDeviceEquality, BusMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetBus(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, DeviceNumberMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetDevice(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, FunctionMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetFunction(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, ComponentIDMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetComponentID(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, VendorIDMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetVendorID(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, DeviceIDMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetDeviceID(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, SubDeviceIDMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetSubDeviceID(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, SubVendorIDMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetSubVendorID(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, ComponentInstanceMakesDevicesUnequal)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    right.SetComponentInstance(9);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMIDeviceEquality, SameLanguageWithDifferentTextsMakesDevicesUnequal)
-{
-    QRMIDevice left, right;
-    left.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("en"), VELString("Y"));
-    EXPECT_FALSE(left == right);
-    EXPECT_FALSE(right == left);
-}
-
-TEST(QRMIDeviceEquality, NumberOfTextsIsNotCompared)
-{
-    QRMIDevice left, right;
-    left.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("fr"), VELString("Y"));
-    EXPECT_TRUE(left == right);
-    EXPECT_TRUE(right == left);
-}
-
-TEST(QRMIDeviceEquality, OneTextEachInDifferentLanguagesCompareEqual)
-{
-    QRMIDevice left, right;
-    left.AddDisplayValue(VELString("en"), VELString("X"));
-    right.AddDisplayValue(VELString("fr"), VELString("Y"));
-    EXPECT_TRUE(left == right);
-}
-
-TEST(QRMIDeviceEquality, DifferingTextInALongerListMakesDevicesUnequal)
-{
-    QRMIDevice left, right;
-    left.AddDisplayValue(VELString("de"), VELString("Z"));
-    right.AddDisplayValue(VELString("fr"), VELString("Y"));
-    right.AddDisplayValue(VELString("de"), VELString("W"));
-    EXPECT_FALSE(left == right);
-    EXPECT_FALSE(right == left);
-}
+INSTANTIATE_TEST_SUITE_P(, QRMIDeviceEquality, testing::ValuesIn(kInventoryDeviceDifferences),
+                         [](const testing::TestParamInfo<InventoryDeviceDifference>& info) {
+                             return std::string(info.param.name);
+                         });
 
 // ===================================================== copying, assignment
 

@@ -1,11 +1,12 @@
-// QRMSoftwareComponent and QRMFMPWrapperInformation: field storage, the
-// description texts, the supported devices and wrappers, copying and
-// equality.
+// QRMSoftwareComponent: a catalog component's fields, description texts,
+// supported devices and wrappers, copying, and how two compare.
 #include "QRMSoftwareComponent.h"
 
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
+
+#include <ostream>
 
 #include <string>
 #include <utility>
@@ -188,6 +189,277 @@ QRMSoftwareComponent FilledComponent()
     component.SetRequiresContainerPowerCycle(true);
     return component;
 }
+
+// Two QRMSoftwareComponent objects built alike, then one or both changed as the case says
+// (usually in one field); the case also says whether they still compare
+// equal. Each pair is compared with == and != both ways round.
+struct ComponentDifference {
+    const char* name;
+    void (*change)(QRMSoftwareComponent& left, QRMSoftwareComponent& right);
+    bool equal;
+};
+
+void PrintTo(const ComponentDifference& difference, std::ostream* out) { *out << difference.name; }
+
+const ComponentDifference kComponentDifferences[] = {
+    {"HashesDifferingOnlyInCaseMakeComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left = FilledComponent();
+         right = FilledComponent();
+         left.SetMD5Hash(VELString("d41d8cd98f00b204e9800998ecf8427e"));
+         right.SetMD5Hash(VELString("D41D8CD98F00B204E9800998ECF8427E"));
+     },
+     false},
+    {"NameTextMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMName a, b;
+         a.AddDisplayValue(VELString("en"), VELString("A"));
+         b.AddDisplayValue(VELString("en"), VELString("B"));
+         left.SetName(a);
+         right.SetName(b);
+     },
+     false},
+    {"NamesWithDifferentLanguagesOnlyCompareEqual",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMName a, b;
+         a.AddDisplayValue(VELString("en"), VELString("A"));
+         b.AddDisplayValue(VELString("fr"), VELString("B"));
+         left.SetName(a);
+         right.SetName(b);
+     },
+     true},
+    {"ComponentTypeValueMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMComponentType a, b;
+         a.SetValue(QRM_COMPONENT_FRMW);
+         b.SetValue(QRM_COMPONENT_BIOS);
+         left.SetComponentType(a);
+         right.SetComponentType(b);
+     },
+     false},
+    {"DescriptionTextMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
+         right.AddDescriptionDisplayValue(VELString("en"), VELString("B"));
+     },
+     false},
+    {"DescriptionTextCountMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
+         right.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
+         right.AddDescriptionDisplayValue(VELString("fr"), VELString("B"));
+     },
+     false},
+    {"DescriptionsWithDifferentLanguagesOnlyCompareEqual",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
+         right.AddDescriptionDisplayValue(VELString("fr"), VELString("B"));
+     },
+     true},
+    {"CategoryCodeMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMCategory a, b;
+         a.SetCode(VELString("NI"));
+         b.SetCode(VELString("SF"));
+         left.SetCategory(a);
+         right.SetCategory(b);
+     },
+     false},
+    {"LUCategoryCodeMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMLUCategory a, b;
+         a.SetCode(VELString("NI"));
+         b.SetCode(VELString("ni"));
+         left.SetLUCategory(a);
+         right.SetLUCategory(b);
+     },
+     false},
+    {"DifferentSingleDevicesMakeComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMDevice a = DeviceWithID(1);
+         QRMDevice b = DeviceWithID(2);
+         left.AddDeviceSupport(a);
+         right.AddDeviceSupport(b);
+     },
+     false},
+    {"DeviceCountMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent&) {
+         QRMDevice a = DeviceWithID(1);
+         left.AddDeviceSupport(a);
+     },
+     false},
+    {"SameSingleDeviceOnBothSidesCompareEqual",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMDevice device = DeviceWithOneEntryPerList();
+         left.AddDeviceSupport(device);
+         right.AddDeviceSupport(device);
+     },
+     true},
+    {"SameTwoDifferentDevicesInSameOrderCompareUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMDevice a = DeviceWithID(1);
+         QRMDevice b = DeviceWithID(2);
+         left.AddDeviceSupport(a);
+         left.AddDeviceSupport(b);
+         right.AddDeviceSupport(a);
+         right.AddDeviceSupport(b);
+     },
+     false},
+    {"SupportedSystemsDisplayFlagMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) {
+         QRMSupportedSystems systems;
+         systems.SetDisplay(true);
+         right.SetSupportedSystems(systems);
+     },
+     false},
+    {"SupportedSystemsBrandMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMSupportedSystems a, b;
+         QRMBrand first, second;
+         first.SetKey(VELString("1"));
+         second.SetKey(VELString("2"));
+         a.AddBrand(first);
+         b.AddBrand(second);
+         left.SetSupportedSystems(a);
+         right.SetSupportedSystems(b);
+     },
+     false},
+    {"SupportedOperatingSystemMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMSupportedOperatingSystems a, b;
+         QRMOperatingSystem first = OSWithCode("WIN");
+         QRMOperatingSystem second = OSWithCode("LIN");
+         a.AddOS(first);
+         b.AddOS(second);
+         left.SetSupportedOperatingSystems(a);
+         right.SetSupportedOperatingSystems(b);
+     },
+     false},
+    {"InstallInstructionMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMInstallInstruction a, b;
+         a.SetCommand(VELString("setup"));
+         b.SetCommand(VELString("setup"));
+         b.SetArguments(VELString("/s"));
+         left.SetInstallInstruction(a);
+         right.SetInstallInstruction(b);
+     },
+     false},
+    {"RevisionHistoryMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMRevisionHistory a, b;
+         a.AddDisplayValue(VELString("en"), VELString("v1"));
+         b.AddDisplayValue(VELString("en"), VELString("v2"));
+         left.SetRevisionHistory(a);
+         right.SetRevisionHistory(b);
+     },
+     false},
+    {"ImportantInfoMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMImportantInfo a, b;
+         a.SetURL(VELString("http://a.invalid"));
+         b.SetURL(VELString("http://b.invalid"));
+         left.SetImportantInfo(a);
+         right.SetImportantInfo(b);
+     },
+     false},
+    {"CriticalityMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMCriticality a, b;
+         a.SetValue(QRM_CRITICALITY_LEVEL1);
+         b.SetValue(QRM_CRITICALITY_UNSPECIFIED);
+         left.SetCriticality(a);
+         right.SetCriticality(b);
+     },
+     false},
+    {"MSIIDMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) {
+         VELGUID id = Guid(3);
+         right.SetMSIID(id);
+     },
+     false},
+    {"DifferentSingleWrappersMakeComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMFMPWrapperInformation a = WrapperNamed("a");
+         QRMFMPWrapperInformation b = WrapperNamed("b");
+         left.AddWrapper(a);
+         right.AddWrapper(b);
+     },
+     false},
+    {"WrapperCountMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent&) {
+         QRMFMPWrapperInformation a = WrapperNamed("a");
+         left.AddWrapper(a);
+     },
+     false},
+    {"SameTwoDifferentWrappersInSameOrderCompareUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         QRMFMPWrapperInformation a = WrapperNamed("a");
+         QRMFMPWrapperInformation b = WrapperNamed("b");
+         left.AddWrapper(a);
+         left.AddWrapper(b);
+         right.AddWrapper(a);
+         right.AddWrapper(b);
+     },
+     false},
+    {"SchemaVersionMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetSchemaVersion(VELString("1")); }, false},
+    {"ReleaseIDMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left.SetReleaseID(VELString("abc"));
+         right.SetReleaseID(VELString("ABC"));
+     },
+     false},
+    {"ReleaseDateMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetReleaseDate(VELTime(1)); }, false},
+    {"VendorVersionMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left.SetVendorVersion(VELString("A01"));
+         right.SetVendorVersion(VELString("A02"));
+     },
+     false},
+    {"TolvarVersionMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetTolvarVersion(VELString("1.0")); }, false},
+    {"PackageTypeMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetPackageType(VELString("LWXP")); }, false},
+    {"XMLGenVersionMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetXMLGenVersion(VELString("2")); }, false},
+    {"PathMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left.SetPath(VELString("a/b.exe"));
+         right.SetPath(VELString("a/B.exe"));
+     },
+     false},
+    {"PackageIDMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetPackageID(VELString("P1")); }, false},
+    {"DateTimeMakesComponentsUnequal",
+     [](QRMSoftwareComponent& left, QRMSoftwareComponent& right) {
+         left.SetDateTime(VELTime(5));
+         right.SetDateTime(VELTime(6));
+     },
+     false},
+    {"MD5HashMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetMD5Hash(VELString("00")); }, false},
+    {"SizeMakesComponentsUnequal", [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetSize(1); }, false},
+    {"IdentifierMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) {
+         VELGUID id = Guid(4);
+         right.SetIdentifier(id);
+     },
+     false},
+    {"PredecessorMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) {
+         VELGUID id = Guid(5);
+         right.SetPredecessor(id);
+     },
+     false},
+    {"RequiresRebootMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetRequiresReboot(true); }, false},
+    {"RequiresContainerPowerCycleMakesComponentsUnequal",
+     [](QRMSoftwareComponent&, QRMSoftwareComponent& right) { right.SetRequiresContainerPowerCycle(true); }, false},
+};
+
+class QRMSoftwareComponentEquality : public testing::TestWithParam<ComponentDifference> {};
 
 }  // namespace
 
@@ -907,509 +1179,31 @@ TEST(QRMSoftwareComponentWrappers, RemoveWrapperTakesOutTheEqualWrapperOnly)
 
 // ========================================================== wrapper fields
 
-TEST(QRMFMPWrapperInformationFields, NewWrapperHasClearFlagsEmptyTextsAndNilGuid)
-{
-    QRMFMPWrapperInformation wrapper;
-    EXPECT_FALSE(wrapper.IsDigitallySigned());
-    EXPECT_FALSE(wrapper.IsInventorySupported());
-    EXPECT_FALSE(wrapper.IsUpdateSupported());
-    EXPECT_FALSE(wrapper.IsRollbackSupported());
-    EXPECT_EQ("", Str(wrapper.GetName()));
-    EXPECT_EQ("", Str(wrapper.GetFilePath()));
-    EXPECT_EQ("", Str(wrapper.GetDriverName()));
-    EXPECT_EQ("", Str(wrapper.GetDriverVersion()));
-    EXPECT_TRUE(wrapper.GetIdentifier().IsNil());
-    EXPECT_TRUE(wrapper == QRMFMPWrapperInformation());
-}
-
-TEST(QRMFMPWrapperInformationFields, EverySetterReturnsSuccessAndItsValueComesBack)
-{
-    QRMFMPWrapperInformation wrapper;
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetDigitallySigned(true));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetName(VELString("name")));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetInventorySupported(true));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetUpdateSupported(true));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetIdentifier(Guid(0x12)));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetFilePath(VELString("a/b.cap")));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetDriverName(VELString("drv")));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetDriverVersion(VELString("1.2")));
-    EXPECT_EQ(QRM_KIT_SUCCESS, wrapper.SetRollbackSupported(true));
-    EXPECT_TRUE(wrapper.IsDigitallySigned());
-    EXPECT_EQ("name", Str(wrapper.GetName()));
-    EXPECT_TRUE(wrapper.IsInventorySupported());
-    EXPECT_TRUE(wrapper.IsUpdateSupported());
-    EXPECT_TRUE(wrapper.GetIdentifier() == Guid(0x12));
-    EXPECT_EQ("a/b.cap", Str(wrapper.GetFilePath()));
-    EXPECT_EQ("drv", Str(wrapper.GetDriverName()));
-    EXPECT_EQ("1.2", Str(wrapper.GetDriverVersion()));
-    EXPECT_TRUE(wrapper.IsRollbackSupported());
-}
-
-TEST(QRMFMPWrapperInformationFields, CopyCarriesEveryFieldAndComparesEqual)
-{
-    QRMFMPWrapperInformation wrapper;
-    wrapper.SetDigitallySigned(true);
-    wrapper.SetName(VELString("name"));
-    wrapper.SetUpdateSupported(true);
-    wrapper.SetIdentifier(Guid(0x12));
-    wrapper.SetDriverVersion(VELString("1.2"));
-    QRMFMPWrapperInformation copy(wrapper);
-    EXPECT_TRUE(copy == wrapper);
-    EXPECT_FALSE(copy != wrapper);
-    EXPECT_EQ("name", Str(copy.GetName()));
-    EXPECT_TRUE(copy.GetIdentifier() == Guid(0x12));
-    QRMFMPWrapperInformation assigned;
-    assigned = wrapper;
-    EXPECT_TRUE(assigned == wrapper);
-    EXPECT_EQ("1.2", Str(assigned.GetDriverVersion()));
-}
-
-TEST(QRMFMPWrapperInformationEquality, DigitallySignedFlagMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    right.SetDigitallySigned(true);
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, NameMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left = WrapperNamed("a");
-    QRMFMPWrapperInformation right = WrapperNamed("A");
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, InventorySupportedFlagMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    right.SetInventorySupported(true);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, UpdateSupportedFlagMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    right.SetUpdateSupported(true);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, IdentifierMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    left.SetIdentifier(Guid(1));
-    right.SetIdentifier(Guid(2));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, FilePathMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    right.SetFilePath(VELString("p"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, DriverNameMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    right.SetDriverName(VELString("d"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, DriverVersionMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    right.SetDriverVersion(VELString("1"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMFMPWrapperInformationEquality, RollbackSupportedFlagMakesWrappersUnequal)
-{
-    QRMFMPWrapperInformation left, right;
-    right.SetRollbackSupported(true);
-    EXPECT_FALSE(left == right);
-}
-
 // ================================================================= equality
 
-TEST(QRMSoftwareComponentEquality, FullyFilledComponentsBuiltAlikeAreEqual)
+TEST_F(QRMSoftwareComponentEquality, FullyFilledComponentsBuiltAlikeAreEqual)
 {
     EXPECT_TRUE(FilledComponent() == FilledComponent());
     EXPECT_FALSE(FilledComponent() != FilledComponent());
 }
 
-TEST(QRMSoftwareComponentEquality, HashesDifferingOnlyInCaseMakeComponentsUnequal)
+TEST_P(QRMSoftwareComponentEquality, FieldDiffers)
 {
-    QRMSoftwareComponent left = FilledComponent();
-    QRMSoftwareComponent right = FilledComponent();
-    left.SetMD5Hash(VELString("d41d8cd98f00b204e9800998ecf8427e"));
-    right.SetMD5Hash(VELString("D41D8CD98F00B204E9800998ECF8427E"));
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
+    QRMSoftwareComponent left;
+    QRMSoftwareComponent right;
+    GetParam().change(left, right);
+    EXPECT_EQ(GetParam().equal, left == right);
+    EXPECT_EQ(!GetParam().equal, left != right);
+    EXPECT_EQ(GetParam().equal, right == left);
+    EXPECT_EQ(!GetParam().equal, right != left);
 }
 
-TEST(QRMSoftwareComponentEquality, NameTextMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMName a, b;
-    a.AddDisplayValue(VELString("en"), VELString("A"));
-    b.AddDisplayValue(VELString("en"), VELString("B"));
-    left.SetName(a);
-    right.SetName(b);
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
+INSTANTIATE_TEST_SUITE_P(, QRMSoftwareComponentEquality, testing::ValuesIn(kComponentDifferences),
+                         [](const testing::TestParamInfo<ComponentDifference>& info) {
+                             return std::string(info.param.name);
+                         });
 
-TEST(QRMSoftwareComponentEquality, NamesWithDifferentLanguagesOnlyCompareEqual)
-{
-    QRMSoftwareComponent left, right;
-    QRMName a, b;
-    a.AddDisplayValue(VELString("en"), VELString("A"));
-    b.AddDisplayValue(VELString("fr"), VELString("B"));
-    left.SetName(a);
-    right.SetName(b);
-    EXPECT_TRUE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, ComponentTypeValueMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMComponentType a, b;
-    a.SetValue(QRM_COMPONENT_FRMW);
-    b.SetValue(QRM_COMPONENT_BIOS);
-    left.SetComponentType(a);
-    right.SetComponentType(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, DescriptionTextMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    left.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
-    right.AddDescriptionDisplayValue(VELString("en"), VELString("B"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, DescriptionTextCountMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    left.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
-    right.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
-    right.AddDescriptionDisplayValue(VELString("fr"), VELString("B"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, DescriptionsWithDifferentLanguagesOnlyCompareEqual)
-{
-    QRMSoftwareComponent left, right;
-    left.AddDescriptionDisplayValue(VELString("en"), VELString("A"));
-    right.AddDescriptionDisplayValue(VELString("fr"), VELString("B"));
-    EXPECT_TRUE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, CategoryCodeMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMCategory a, b;
-    a.SetCode(VELString("NI"));
-    b.SetCode(VELString("SF"));
-    left.SetCategory(a);
-    right.SetCategory(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, LUCategoryCodeMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMLUCategory a, b;
-    a.SetCode(VELString("NI"));
-    b.SetCode(VELString("ni"));
-    left.SetLUCategory(a);
-    right.SetLUCategory(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, DifferentSingleDevicesMakeComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMDevice a = DeviceWithID(1);
-    QRMDevice b = DeviceWithID(2);
-    left.AddDeviceSupport(a);
-    right.AddDeviceSupport(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, DeviceCountMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMDevice a = DeviceWithID(1);
-    left.AddDeviceSupport(a);
-    EXPECT_FALSE(left == right);
-    EXPECT_FALSE(right == left);
-}
-
-TEST(QRMSoftwareComponentEquality, SameSingleDeviceOnBothSidesCompareEqual)
-{
-    QRMSoftwareComponent left, right;
-    QRMDevice device = DeviceWithOneEntryPerList();
-    left.AddDeviceSupport(device);
-    right.AddDeviceSupport(device);
-    EXPECT_TRUE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, SameTwoDifferentDevicesInSameOrderCompareUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMDevice a = DeviceWithID(1);
-    QRMDevice b = DeviceWithID(2);
-    left.AddDeviceSupport(a);
-    left.AddDeviceSupport(b);
-    right.AddDeviceSupport(a);
-    right.AddDeviceSupport(b);
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMSoftwareComponentEquality, SupportedSystemsDisplayFlagMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMSupportedSystems systems;
-    systems.SetDisplay(true);
-    right.SetSupportedSystems(systems);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, SupportedSystemsBrandMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMSupportedSystems a, b;
-    QRMBrand first, second;
-    first.SetKey(VELString("1"));
-    second.SetKey(VELString("2"));
-    a.AddBrand(first);
-    b.AddBrand(second);
-    left.SetSupportedSystems(a);
-    right.SetSupportedSystems(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, SupportedOperatingSystemMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMSupportedOperatingSystems a, b;
-    QRMOperatingSystem first = OSWithCode("WIN");
-    QRMOperatingSystem second = OSWithCode("LIN");
-    a.AddOS(first);
-    b.AddOS(second);
-    left.SetSupportedOperatingSystems(a);
-    right.SetSupportedOperatingSystems(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, InstallInstructionMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMInstallInstruction a, b;
-    a.SetCommand(VELString("setup"));
-    b.SetCommand(VELString("setup"));
-    b.SetArguments(VELString("/s"));
-    left.SetInstallInstruction(a);
-    right.SetInstallInstruction(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, RevisionHistoryMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMRevisionHistory a, b;
-    a.AddDisplayValue(VELString("en"), VELString("v1"));
-    b.AddDisplayValue(VELString("en"), VELString("v2"));
-    left.SetRevisionHistory(a);
-    right.SetRevisionHistory(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, ImportantInfoMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMImportantInfo a, b;
-    a.SetURL(VELString("http://a.invalid"));
-    b.SetURL(VELString("http://b.invalid"));
-    left.SetImportantInfo(a);
-    right.SetImportantInfo(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, CriticalityMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMCriticality a, b;
-    a.SetValue(QRM_CRITICALITY_LEVEL1);
-    b.SetValue(QRM_CRITICALITY_UNSPECIFIED);
-    left.SetCriticality(a);
-    right.SetCriticality(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, MSIIDMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    VELGUID id = Guid(3);
-    right.SetMSIID(id);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, DifferentSingleWrappersMakeComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMFMPWrapperInformation a = WrapperNamed("a");
-    QRMFMPWrapperInformation b = WrapperNamed("b");
-    left.AddWrapper(a);
-    right.AddWrapper(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, WrapperCountMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMFMPWrapperInformation a = WrapperNamed("a");
-    left.AddWrapper(a);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, SameTwoDifferentWrappersInSameOrderCompareUnequal)
-{
-    QRMSoftwareComponent left, right;
-    QRMFMPWrapperInformation a = WrapperNamed("a");
-    QRMFMPWrapperInformation b = WrapperNamed("b");
-    left.AddWrapper(a);
-    left.AddWrapper(b);
-    right.AddWrapper(a);
-    right.AddWrapper(b);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, SchemaVersionMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetSchemaVersion(VELString("1"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, ReleaseIDMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    left.SetReleaseID(VELString("abc"));
-    right.SetReleaseID(VELString("ABC"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, ReleaseDateMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetReleaseDate(VELTime(1));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, VendorVersionMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    left.SetVendorVersion(VELString("A01"));
-    right.SetVendorVersion(VELString("A02"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, TolvarVersionMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetTolvarVersion(VELString("1.0"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, PackageTypeMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetPackageType(VELString("LWXP"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, XMLGenVersionMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetXMLGenVersion(VELString("2"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, PathMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    left.SetPath(VELString("a/b.exe"));
-    right.SetPath(VELString("a/B.exe"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, PackageIDMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetPackageID(VELString("P1"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, DateTimeMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    left.SetDateTime(VELTime(5));
-    right.SetDateTime(VELTime(6));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, MD5HashMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetMD5Hash(VELString("00"));
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, SizeMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetSize(1);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, IdentifierMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    VELGUID id = Guid(4);
-    right.SetIdentifier(id);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, PredecessorMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    VELGUID id = Guid(5);
-    right.SetPredecessor(id);
-    EXPECT_FALSE(left == right);
-}
-
-TEST(QRMSoftwareComponentEquality, RequiresRebootMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetRequiresReboot(true);
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMSoftwareComponentEquality, RequiresContainerPowerCycleMakesComponentsUnequal)
-{
-    QRMSoftwareComponent left, right;
-    right.SetRequiresContainerPowerCycle(true);
-    EXPECT_FALSE(left == right);
-    EXPECT_TRUE(left != right);
-}
-
-TEST(QRMSoftwareComponentEquality, EachFieldChangedOnAFilledComponentMakesItUnequal)
+TEST_F(QRMSoftwareComponentEquality, EachFieldChangedOnAFilledComponentMakesItUnequal)
 {
     const QRMSoftwareComponent base = FilledComponent();
     std::vector<QRMSoftwareComponent> changed;

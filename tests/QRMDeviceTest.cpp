@@ -1,11 +1,13 @@
-// Supported devices: identifier and flag, the PCI and plug-and-play
-// identities, texts, and the lists of related records, with their adding,
-// removing, copying and equality rules.
+// QRMDevice: a supported device's identifier and flag, its PCI and
+// plug-and-play identities, texts and lists of related records; adding,
+// removing, copying, and how two devices compare.
 #include "QRMDevice.h"
 
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
+
+#include <ostream>
 
 #include <string>
 #include <utility>
@@ -152,9 +154,112 @@ QRMDevice MakeFullDevice()
     return device;
 }
 
-}  // namespace
+// Two QRMDevice objects built alike, then one or both changed as the case says
+// (usually in one field); the case also says whether they still compare
+// equal. Each pair is compared with == and != both ways round.
+struct DeviceDifference {
+    const char* name;
+    void (*change)(QRMDevice& left, QRMDevice& right);
+    bool equal;
+};
 
-// ---- Fields
+void PrintTo(const DeviceDifference& difference, std::ostream* out) { *out << difference.name; }
+
+const DeviceDifference kDeviceDifferences[] = {
+    {"DifferentComponentIdsMakeThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a = MakeFullDevice();
+         b = MakeFullDevice();
+         b.SetComponentID(78);
+     },
+     false},
+    {"DifferentEmbeddedFlagsMakeThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a = MakeFullDevice();
+         b = MakeFullDevice();
+         b.SetEmbedded(false);
+     },
+     false},
+    {"DifferentRollbackInformationMakesThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a = MakeFullDevice();
+         b = MakeFullDevice();
+         QRMRollbackInformation rollback = MakeRollback("A99");
+         b.SetRollbackInformation(rollback);
+     },
+     false},
+    {"SameIdFlagAndOneIdenticalPCIEntryEachAreEqual",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.SetComponentID(5);
+         b.SetComponentID(5);
+         a.SetEmbedded(true);
+         b.SetEmbedded(true);
+         a.AddPCIInfo(MakePCI(1, 2, 3, 4));
+         b.AddPCIInfo(MakePCI(1, 2, 3, 4));
+     },
+     true},
+    {"OneDifferentPCIEntryEachMakesThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddPCIInfo(MakePCI(1, 2, 3, 4));
+         b.AddPCIInfo(MakePCI(1, 2, 3, 5));
+     },
+     false},
+    {"TheSameTwoDifferentPCIEntriesEachMakeThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddPCIInfo(MakePCI(1, 2, 3, 4));
+         a.AddPCIInfo(MakePCI(5, 6, 7, 8));
+         b.AddPCIInfo(MakePCI(1, 2, 3, 4));
+         b.AddPCIInfo(MakePCI(5, 6, 7, 8));
+     },
+     false},
+    {"DifferentNumbersOfPCIEntriesMakeThemUnequal", [](QRMDevice& a, QRMDevice&) { a.AddPCIInfo(MakePCI(1, 2, 3, 4)); },
+     false},
+    {"OneIdenticalPnPEntryEachKeepsThemEqual",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddPnPInfo(MakePnP(1));
+         b.AddPnPInfo(MakePnP(1));
+     },
+     true},
+    {"DifferentPnPEntriesMakeThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddPnPInfo(MakePnP(1));
+         b.AddPnPInfo(MakePnP(2));
+     },
+     false},
+    {"TheSameTwoDifferentPnPEntriesEachMakeThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddPnPInfo(MakePnP(1));
+         a.AddPnPInfo(MakePnP(2));
+         b.AddPnPInfo(MakePnP(1));
+         b.AddPnPInfo(MakePnP(2));
+     },
+     false},
+    {"DifferentNumbersOfPnPEntriesMakeThemUnequal", [](QRMDevice& a, QRMDevice&) { a.AddPnPInfo(MakePnP(1)); }, false},
+    {"OneIdenticalTextEachKeepsThemEqual",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddDisplayValue("en", "Adapter");
+         b.AddDisplayValue("en", "Adapter");
+     },
+     true},
+    {"OneTextEachOfTheSameLanguageButDifferentValueMakesThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddDisplayValue("en", "Adapter");
+         b.AddDisplayValue("en", "Controller");
+     },
+     false},
+    {"OneTextEachInDifferentLanguagesMakesThemUnequal",
+     [](QRMDevice& a, QRMDevice& b) {
+         a.AddDisplayValue("en", "Adapter");
+         b.AddDisplayValue("fr", "Adapter");
+     },
+     false},
+    {"DifferentNumbersOfTextsMakeThemUnequal", [](QRMDevice& a, QRMDevice&) { a.AddDisplayValue("en", "Adapter"); },
+     false},
+};
+
+class QRMDeviceEquality : public testing::TestWithParam<DeviceDifference> {};
+
+}  // namespace
 
 TEST(QRMDeviceFields, NewDeviceHasIdZeroIsNotEmbeddedAndHoldsNothing)
 {
@@ -199,8 +304,6 @@ TEST(QRMDeviceFields, RollbackInformationIsStoredAndHandedOutAsACopy)
     EXPECT_EQ("note", U8(device.GetRollbackInformation().GetNote()));
 }
 
-// ---- Texts
-
 TEST(QRMDeviceTexts, AddAndRemoveFollowTheOneTextPerLanguageRule)
 {
     QRMDevice device;
@@ -223,8 +326,6 @@ TEST(QRMDeviceTexts, GetDisplayValuesKeepsExistingItemsInFront)
     EXPECT_EQ("earlier", U8(out[0].GetValue()));
     EXPECT_EQ("Adapter", U8(out[1].GetValue()));
 }
-
-// ---- PCI identities
 
 TEST(QRMDevicePCI, AddPCIInfoAppendsACopyAndReturnsSuccess)
 {
@@ -434,8 +535,6 @@ TEST(QRMDevicePCI, AfterRemovalTheRemovedIdentityCanBeAddedAgain)
     ExpectPCI(*held[1], 1, 2, 3, 4);
 }
 
-// ---- Plug-and-play identities
-
 TEST(QRMDevicePnP, AddPnPInfoReturnsSuccessThenAlreadyExistsForAnEqualRecord)
 {
     QRMDevice device;
@@ -501,8 +600,6 @@ TEST(QRMDevicePnP, RemovingTheFirstOfTwoLeavesOneRecordResetToNew)
     EXPECT_EQ((QRMPnPInfo::Value{{0, 0, 0, 0}}), held[0].GetValue());
     EXPECT_FALSE(device.HasPnP(MakePnP(2)));
 }
-
-// ---- Sub-components
 
 TEST(QRMDeviceSubComponents, AddSubComponentReturnsSuccessThenAlreadyExistsForAnEqualOne)
 {
@@ -570,8 +667,6 @@ TEST(QRMDeviceSubComponents, RemovingTheFirstOfTwoLeavesOneEntryResetToNew)
     EXPECT_EQ("", U8(held[0].GetVersion()));
     EXPECT_TRUE(TextsOf(held[0]).empty());
 }
-
-// ---- Dependencies
 
 TEST(QRMDeviceDependencies, AddDependencyReturnsSuccessThenAlreadyExistsForAnEqualOne)
 {
@@ -647,8 +742,6 @@ TEST(QRMDeviceDependencies, RemovingTheFirstOfTwoLeavesOneEntryResetToNew)
     EXPECT_TRUE(pci.empty());
 }
 
-// ---- Soft dependencies
-
 TEST(QRMDeviceSoftDependencies, AddSoftDependencyReturnsSuccessThenAlreadyExistsForAnEqualOne)
 {
     QRMDevice device;
@@ -718,8 +811,6 @@ TEST(QRMDeviceSoftDependencies, RemovingTheFirstOfTwoLeavesOneEntryResetToNew)
     EXPECT_TRUE(entries.empty());
 }
 
-// ---- Applicability entries
-
 TEST(QRMDeviceApplicabilityList, AddApplicabilityReturnsSuccessThenAlreadyExistsForAnEqualOne)
 {
     QRMDevice device;
@@ -786,9 +877,7 @@ TEST(QRMDeviceApplicabilityList, RemovingTheFirstOfTwoLeavesOneEntryResetToEmpty
     EXPECT_EQ("", U8(held[0].GetValue()));
 }
 
-// ---- Equality
-
-TEST(QRMDeviceEquality, TwoNewDevicesAreEqual)
+TEST_F(QRMDeviceEquality, TwoNewDevicesAreEqual)
 {
     QRMDevice a;
     QRMDevice b;
@@ -796,7 +885,7 @@ TEST(QRMDeviceEquality, TwoNewDevicesAreEqual)
     EXPECT_FALSE(a != b);
 }
 
-TEST(QRMDeviceEquality, DevicesWithOneEqualEntryInEveryListAreEqual)
+TEST_F(QRMDeviceEquality, DevicesWithOneEqualEntryInEveryListAreEqual)
 {
     QRMDevice a = MakeFullDevice();
     QRMDevice b = MakeFullDevice();
@@ -804,67 +893,23 @@ TEST(QRMDeviceEquality, DevicesWithOneEqualEntryInEveryListAreEqual)
     EXPECT_FALSE(a != b);
 }
 
-TEST(QRMDeviceEquality, DifferentComponentIdsMakeThemUnequal)
+TEST_P(QRMDeviceEquality, FieldDiffers)
 {
-    QRMDevice a = MakeFullDevice();
-    QRMDevice b = MakeFullDevice();
-    b.SetComponentID(78);
-    EXPECT_FALSE(a == b);
-    EXPECT_TRUE(a != b);
+    QRMDevice left;
+    QRMDevice right;
+    GetParam().change(left, right);
+    EXPECT_EQ(GetParam().equal, left == right);
+    EXPECT_EQ(!GetParam().equal, left != right);
+    EXPECT_EQ(GetParam().equal, right == left);
+    EXPECT_EQ(!GetParam().equal, right != left);
 }
 
-TEST(QRMDeviceEquality, DifferentEmbeddedFlagsMakeThemUnequal)
-{
-    QRMDevice a = MakeFullDevice();
-    QRMDevice b = MakeFullDevice();
-    b.SetEmbedded(false);
-    EXPECT_FALSE(a == b);
-}
+INSTANTIATE_TEST_SUITE_P(, QRMDeviceEquality, testing::ValuesIn(kDeviceDifferences),
+                         [](const testing::TestParamInfo<DeviceDifference>& info) {
+                             return std::string(info.param.name);
+                         });
 
-TEST(QRMDeviceEquality, DifferentRollbackInformationMakesThemUnequal)
-{
-    QRMDevice a = MakeFullDevice();
-    QRMDevice b = MakeFullDevice();
-    QRMRollbackInformation rollback = MakeRollback("A99");
-    b.SetRollbackInformation(rollback);
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, SameIdFlagAndOneIdenticalPCIEntryEachAreEqual)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.SetComponentID(5);
-    b.SetComponentID(5);
-    a.SetEmbedded(true);
-    b.SetEmbedded(true);
-    a.AddPCIInfo(MakePCI(1, 2, 3, 4));
-    b.AddPCIInfo(MakePCI(1, 2, 3, 4));
-    EXPECT_TRUE(a == b);
-}
-
-TEST(QRMDeviceEquality, OneDifferentPCIEntryEachMakesThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddPCIInfo(MakePCI(1, 2, 3, 4));
-    b.AddPCIInfo(MakePCI(1, 2, 3, 5));
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, TheSameTwoDifferentPCIEntriesEachMakeThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddPCIInfo(MakePCI(1, 2, 3, 4));
-    a.AddPCIInfo(MakePCI(5, 6, 7, 8));
-    b.AddPCIInfo(MakePCI(1, 2, 3, 4));
-    b.AddPCIInfo(MakePCI(5, 6, 7, 8));
-    EXPECT_FALSE(a == b);
-    EXPECT_TRUE(a != b);
-}
-
-TEST(QRMDeviceEquality, ADeviceWithTwoDifferentPCIEntriesIsUnequalToItself)
+TEST_F(QRMDeviceEquality, ADeviceWithTwoDifferentPCIEntriesIsUnequalToItself)
 {
     QRMDevice device;
     device.AddPCIInfo(MakePCI(1, 2, 3, 4));
@@ -873,80 +918,7 @@ TEST(QRMDeviceEquality, ADeviceWithTwoDifferentPCIEntriesIsUnequalToItself)
     EXPECT_FALSE(device == alias);
 }
 
-TEST(QRMDeviceEquality, DifferentNumbersOfPCIEntriesMakeThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddPCIInfo(MakePCI(1, 2, 3, 4));
-    EXPECT_FALSE(a == b);
-    EXPECT_FALSE(b == a);
-}
-
-TEST(QRMDeviceEquality, OneIdenticalPnPEntryEachKeepsThemEqual)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddPnPInfo(MakePnP(1));
-    b.AddPnPInfo(MakePnP(1));
-    EXPECT_TRUE(a == b);
-}
-
-TEST(QRMDeviceEquality, DifferentPnPEntriesMakeThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddPnPInfo(MakePnP(1));
-    b.AddPnPInfo(MakePnP(2));
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, TheSameTwoDifferentPnPEntriesEachMakeThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddPnPInfo(MakePnP(1));
-    a.AddPnPInfo(MakePnP(2));
-    b.AddPnPInfo(MakePnP(1));
-    b.AddPnPInfo(MakePnP(2));
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, DifferentNumbersOfPnPEntriesMakeThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddPnPInfo(MakePnP(1));
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, OneIdenticalTextEachKeepsThemEqual)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddDisplayValue("en", "Adapter");
-    b.AddDisplayValue("en", "Adapter");
-    EXPECT_TRUE(a == b);
-}
-
-TEST(QRMDeviceEquality, OneTextEachOfTheSameLanguageButDifferentValueMakesThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddDisplayValue("en", "Adapter");
-    b.AddDisplayValue("en", "Controller");
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, OneTextEachInDifferentLanguagesMakesThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddDisplayValue("en", "Adapter");
-    b.AddDisplayValue("fr", "Adapter");
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, TwoDifferentTextsEachAreNeverEqual)
+TEST_F(QRMDeviceEquality, TwoDifferentTextsEachAreNeverEqual)
 {
     QRMDevice a;
     QRMDevice b;
@@ -959,15 +931,7 @@ TEST(QRMDeviceEquality, TwoDifferentTextsEachAreNeverEqual)
     EXPECT_FALSE(a == alias);
 }
 
-TEST(QRMDeviceEquality, DifferentNumbersOfTextsMakeThemUnequal)
-{
-    QRMDevice a;
-    QRMDevice b;
-    a.AddDisplayValue("en", "Adapter");
-    EXPECT_FALSE(a == b);
-}
-
-TEST(QRMDeviceEquality, SubComponentListsCompareByTheAllPairsRule)
+TEST_F(QRMDeviceEquality, SubComponentListsCompareByTheAllPairsRule)
 {
     QRMSubComponent first = MakeSubComponent("A", "1");
     QRMSubComponent second = MakeSubComponent("B", "2");
@@ -988,7 +952,7 @@ TEST(QRMDeviceEquality, SubComponentListsCompareByTheAllPairsRule)
     EXPECT_FALSE(c == d);
 }
 
-TEST(QRMDeviceEquality, DependencyListsCompareByTheAllPairsRule)
+TEST_F(QRMDeviceEquality, DependencyListsCompareByTheAllPairsRule)
 {
     QRMDependency first = MakeDependency("A");
     QRMDependency second = MakeDependency("B");
@@ -1009,7 +973,7 @@ TEST(QRMDeviceEquality, DependencyListsCompareByTheAllPairsRule)
     EXPECT_FALSE(c == d);
 }
 
-TEST(QRMDeviceEquality, SoftDependencyListsCompareByTheAllPairsRule)
+TEST_F(QRMDeviceEquality, SoftDependencyListsCompareByTheAllPairsRule)
 {
     QRMSoftDependency first = MakeSoftDependency("A");
     QRMSoftDependency second = MakeSoftDependency("B");
@@ -1030,7 +994,7 @@ TEST(QRMDeviceEquality, SoftDependencyListsCompareByTheAllPairsRule)
     EXPECT_FALSE(c == d);
 }
 
-TEST(QRMDeviceEquality, ApplicabilityListsCompareByTheAllPairsRule)
+TEST_F(QRMDeviceEquality, ApplicabilityListsCompareByTheAllPairsRule)
 {
     QRMDeviceApplicability first("en", "Desktop");
     QRMDeviceApplicability second("en", "Laptop");
@@ -1050,8 +1014,6 @@ TEST(QRMDeviceEquality, ApplicabilityListsCompareByTheAllPairsRule)
     d.AddApplicability(second);
     EXPECT_FALSE(c == d);
 }
-
-// ---- Copying and assignment
 
 TEST(QRMDeviceCopy, CopyCarriesEveryFieldAndEveryList)
 {
