@@ -5,6 +5,7 @@
 //
 // The store is process-wide and never emptied; every test runs in a process
 // of its own and starts from an empty store.
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+using builders::U8;
 
 namespace {
 
@@ -36,8 +39,6 @@ void ParseChildren(const TempDir& dir, const std::string& children)
     ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, "inventory.xml", Inventory(children)));
     ASSERT_TRUE(API()->IsInventoryParsed());
 }
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
 
 std::vector<QRMIDevice*> Devices()
 {

@@ -4,6 +4,7 @@
 //
 // The store is process-wide and never emptied; every test runs in a process
 // of its own and starts from an empty store.
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+using builders::U8;
 
 namespace {
 
@@ -32,8 +35,6 @@ QRMKitReturnCode ParseText(const TempDir& dir, const std::string& name, const st
 {
     return API()->ParseInventory(VELFile(dir.Write(name, xml)));
 }
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
 
 std::vector<QRMOperatingSystem> OperatingSystems()
 {

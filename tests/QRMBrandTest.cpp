@@ -4,6 +4,7 @@
 #include "QRMBrand.h"
 #include "QRMModel.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -13,25 +14,11 @@
 #include <utility>
 #include <vector>
 
+using builders::MakeBrand;
+using builders::MakeModel;
+using builders::U8;
+
 namespace {
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
-
-QRMModel MakeModel(unsigned int systemID, unsigned int secondID = 0)
-{
-    QRMModel model;
-    model.SetSystemID(systemID);
-    model.SetSecondID(secondID);
-    return model;
-}
-
-QRMBrand MakeBrand(const char* key, const char* prefix)
-{
-    QRMBrand brand;
-    brand.SetKey(key);
-    brand.SetPrefix(prefix);
-    return brand;
-}
 
 std::vector<QRMModel*> ModelsOf(const QRMBrand& brand)
 {

@@ -5,6 +5,7 @@
 #include "QRMPCIInfo.h"
 #include "QRMPnPInfo.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -15,37 +16,12 @@
 #include <utility>
 #include <vector>
 
+using builders::MakeGUID;
+using builders::MakePCI;
+using builders::MakePnP;
+using builders::U8;
+
 namespace {
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
-
-VELGUID MakeGUID(unsigned char seed)
-{
-    VELGUID::Bytes bytes{};
-    for (unsigned int i = 0; i < bytes.size(); ++i) {
-        bytes[i] = static_cast<unsigned char>(seed + i);
-    }
-    return VELGUID(bytes);
-}
-
-QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID, unsigned int subDeviceID)
-{
-    QRMPCIInfo pci;
-    pci.SetVendorID(vendorID);
-    pci.SetDeviceID(deviceID);
-    pci.SetSubVendorID(subVendorID);
-    pci.SetSubDeviceID(subDeviceID);
-    return pci;
-}
-
-QRMPnPInfo MakePnP(unsigned char seed)
-{
-    QRMPnPInfo pnp;
-    pnp.SetPrimary(QRMPnPInfo::Primary{{seed, 1, 2, 3}});
-    pnp.SetSecondary(QRMPnPInfo::Secondary{{4, 5, seed}});
-    pnp.SetValue(QRMPnPInfo::Value{{6, seed, 7, 8}});
-    return pnp;
-}
 
 QRMDependency MakeDependency()
 {

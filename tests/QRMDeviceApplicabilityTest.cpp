@@ -1,6 +1,7 @@
 // QRMDeviceApplicability: one applicability entry of a soft dependency.
 #include "QRMDeviceApplicability.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -9,11 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace {
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
-
-}  // namespace
+using builders::U8;
 
 TEST(QRMDeviceApplicability, NewEntryHasEmptyTexts)
 {

@@ -3,6 +3,7 @@
 // removing, copying, and how two devices compare.
 #include "QRMDevice.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -13,19 +14,10 @@
 #include <utility>
 #include <vector>
 
+using builders::MakePCI;
+using builders::U8;
+
 namespace {
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
-
-QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID, unsigned int subDeviceID)
-{
-    QRMPCIInfo pci;
-    pci.SetVendorID(vendorID);
-    pci.SetDeviceID(deviceID);
-    pci.SetSubVendorID(subVendorID);
-    pci.SetSubDeviceID(subDeviceID);
-    return pci;
-}
 
 QRMPnPInfo MakePnP(unsigned char first, bool withPrimary = true)
 {

@@ -3,6 +3,7 @@
 #include "QRMModel.h"
 #include "QRMBrand.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -11,25 +12,11 @@
 #include <utility>
 #include <vector>
 
+using builders::MakeBrand;
+using builders::MakeModel;
+using builders::U8;
+
 namespace {
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
-
-QRMModel MakeModel(unsigned int systemID, unsigned int secondID = 0)
-{
-    QRMModel model;
-    model.SetSystemID(systemID);
-    model.SetSecondID(secondID);
-    return model;
-}
-
-QRMBrand MakeBrand(const char* key, const char* prefix)
-{
-    QRMBrand brand;
-    brand.SetKey(key);
-    brand.SetPrefix(prefix);
-    return brand;
-}
 
 std::vector<QRMBrand*> SubBrandsOf(const QRMModel& model)
 {

@@ -2,6 +2,7 @@
 // numeric tags, how two of them compare, and copying.
 #include "QRMOperatingSystem.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -12,9 +13,9 @@
 #include <utility>
 #include <vector>
 
-namespace {
+using builders::U8;
 
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
+namespace {
 
 // An operating system with every scalar field set to a distinct value.
 QRMOperatingSystem MakeOS(const char* code)

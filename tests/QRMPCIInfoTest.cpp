@@ -2,6 +2,7 @@
 // and sub-device identifiers) and how two of them compare.
 #include "QRMPCIInfo.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -10,19 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace {
-
-QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID, unsigned int subDeviceID)
-{
-    QRMPCIInfo pci;
-    pci.SetVendorID(vendorID);
-    pci.SetDeviceID(deviceID);
-    pci.SetSubVendorID(subVendorID);
-    pci.SetSubDeviceID(subDeviceID);
-    return pci;
-}
-
-}  // namespace
+using builders::MakePCI;
 
 TEST(QRMPCIInfo, NewRecordHasAllFourIdsZero)
 {

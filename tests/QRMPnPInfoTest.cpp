@@ -2,6 +2,7 @@
 // primary and secondary parts, and how two of them compare.
 #include "QRMPnPInfo.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -10,18 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace {
-
-QRMPnPInfo MakePnP(unsigned char seed)
-{
-    QRMPnPInfo pnp;
-    pnp.SetPrimary(QRMPnPInfo::Primary{{seed, 1, 2, 3}});
-    pnp.SetSecondary(QRMPnPInfo::Secondary{{4, 5, seed}});
-    pnp.SetValue(QRMPnPInfo::Value{{6, seed, 7, 8}});
-    return pnp;
-}
-
-}  // namespace
+using builders::MakePnP;
 
 TEST(QRMPnPInfo, NewRecordHasNoOptionalPartsAndAZeroValue)
 {

@@ -2,6 +2,7 @@
 // update, and how two such records compare.
 #include "QRMRollbackInformation.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -10,18 +11,10 @@
 #include <utility>
 #include <vector>
 
+using builders::MakeGUID;
+using builders::U8;
+
 namespace {
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
-
-VELGUID MakeGUID(unsigned char seed)
-{
-    VELGUID::Bytes bytes{};
-    for (unsigned int i = 0; i < bytes.size(); ++i) {
-        bytes[i] = static_cast<unsigned char>(seed + i);
-    }
-    return VELGUID(bytes);
-}
 
 QRMRollbackInformation MakeRollback()
 {

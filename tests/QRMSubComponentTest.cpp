@@ -2,6 +2,7 @@
 // and texts.
 #include "QRMSubComponent.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -10,11 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace {
-
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
-
-}  // namespace
+using builders::U8;
 
 TEST(QRMSubComponent, NewSubComponentHasEmptyTextsAndNoDisplayValues)
 {

@@ -3,6 +3,7 @@
 #include "QRMSupportedOperatingSystems.h"
 #include "QRMOperatingSystem.h"
 
+#include "ModelBuilders.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -11,9 +12,9 @@
 #include <utility>
 #include <vector>
 
-namespace {
+using builders::U8;
 
-std::string U8(const VELString& text) { return text.GetUTF8String(); }
+namespace {
 
 // An operating system with every scalar field set to a distinct value.
 QRMOperatingSystem MakeOS(const char* code)

@@ -2,6 +2,7 @@
 // the seldom-used records that devices and components create on first
 // change; by-value setters; the duplicate check of an inventory device's
 // applications; and the in-place path views.
+#include "ModelBuilders.h"
 #include "QRMKit.h"
 #include "TestSupport.h"
 #include "detail/QRMOwnedList.h"
@@ -15,6 +16,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+using builders::MakePCI;
 
 namespace {
 
@@ -30,16 +33,6 @@ T& Same(T& value)
 
 // A text long enough to be held on the heap.
 VELString Long(const std::string& stem) { return VELString((stem + " that is held on the heap").c_str()); }
-
-QRMPCIInfo MakePCI(unsigned int vendorID, unsigned int deviceID, unsigned int subVendorID, unsigned int subDeviceID)
-{
-    QRMPCIInfo pci;
-    pci.SetVendorID(vendorID);
-    pci.SetDeviceID(deviceID);
-    pci.SetSubVendorID(subVendorID);
-    pci.SetSubDeviceID(subDeviceID);
-    return pci;
-}
 
 // The i-th of a series of distinct PCI records.
 QRMPCIInfo NthPCI(unsigned int i) { return MakePCI(0x8086, 0x1000 + i, 0x1028, i * 7); }
