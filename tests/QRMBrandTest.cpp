@@ -4,6 +4,7 @@
 #include "QRMBrand.h"
 #include "QRMModel.h"
 
+#include "FieldDifferences.h"
 #include "ModelBuilders.h"
 #include "TestSupport.h"
 
@@ -27,15 +28,7 @@ std::vector<QRMModel*> ModelsOf(const QRMBrand& brand)
     return models;
 }
 
-// One brand of each pair changed in one field, or each in its own way; the
-// case says whether they still compare equal. Both sides are asked both ways.
-struct BrandDifference {
-    const char* name;
-    void (*change)(QRMBrand& left, QRMBrand& right);
-    bool equal;
-};
-
-void PrintTo(const BrandDifference& difference, std::ostream* out) { *out << difference.name; }
+using BrandDifference = FieldDifference<QRMBrand>;
 
 const BrandDifference kBrandDifferences[] = {
     {"DifferentKeysMakeThemUnequal", [](QRMBrand&, QRMBrand& right) { right.SetKey("2"); }, false},
@@ -199,21 +192,9 @@ TEST_F(QRMBrandEquality, BrandsWithEqualKeyPrefixAndNoModelsAreEqual)
     EXPECT_FALSE(a != b);
 }
 
-TEST_P(QRMBrandEquality, FieldDiffers)
-{
-    QRMBrand left = MakeBrand("1", "AB");
-    QRMBrand right = MakeBrand("1", "AB");
-    GetParam().change(left, right);
-    EXPECT_EQ(GetParam().equal, left == right);
-    EXPECT_EQ(!GetParam().equal, left != right);
-    EXPECT_EQ(GetParam().equal, right == left);
-    EXPECT_EQ(!GetParam().equal, right != left);
-}
+TEST_P(QRMBrandEquality, FieldDiffers) { ExpectDifference(GetParam(), MakeBrand("1", "AB"), MakeBrand("1", "AB")); }
 
-INSTANTIATE_TEST_SUITE_P(, QRMBrandEquality, testing::ValuesIn(kBrandDifferences),
-                         [](const testing::TestParamInfo<BrandDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(, QRMBrandEquality, testing::ValuesIn(kBrandDifferences), NameOfDifference());
 
 TEST_F(QRMBrandEquality, ABrandWithoutModelsEqualsItsDeepCopy)
 {

@@ -5,6 +5,7 @@
 #include "QRMPCIInfo.h"
 #include "QRMPnPInfo.h"
 
+#include "FieldDifferences.h"
 #include "ModelBuilders.h"
 #include "TestSupport.h"
 
@@ -56,16 +57,7 @@ std::vector<QRMPnPInfo> PnPOf(const Dependency& dependency)
     return out;
 }
 
-// Two QRMDependency objects built alike, then one or both changed as the case says
-// (usually in one field); the case also says whether they still compare
-// equal. Each pair is compared with == and != both ways round.
-struct DependencyDifference {
-    const char* name;
-    void (*change)(QRMDependency& a, QRMDependency& b);
-    bool equal;
-};
-
-void PrintTo(const DependencyDifference& difference, std::ostream* out) { *out << difference.name; }
+using DependencyDifference = FieldDifference<QRMDependency>;
 
 const DependencyDifference kDependencyDifferences[] = {
     {"DifferentTypeMakesThemUnequal", [](QRMDependency&, QRMDependency& b) { b.SetType(4); }, false},
@@ -89,21 +81,9 @@ TEST_F(QRMDependencyEquality, DependenciesWithEveryFieldEqualAreEqual)
     EXPECT_TRUE(QRMDependency() == QRMDependency());
 }
 
-TEST_P(QRMDependencyEquality, FieldDiffers)
-{
-    QRMDependency a = MakeDependency();
-    QRMDependency b = MakeDependency();
-    GetParam().change(a, b);
-    EXPECT_EQ(GetParam().equal, a == b);
-    EXPECT_EQ(!GetParam().equal, a != b);
-    EXPECT_EQ(GetParam().equal, b == a);
-    EXPECT_EQ(!GetParam().equal, b != a);
-}
+TEST_P(QRMDependencyEquality, FieldDiffers) { ExpectDifference(GetParam(), MakeDependency(), MakeDependency()); }
 
-INSTANTIATE_TEST_SUITE_P(, QRMDependencyEquality, testing::ValuesIn(kDependencyDifferences),
-                         [](const testing::TestParamInfo<DependencyDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(, QRMDependencyEquality, testing::ValuesIn(kDependencyDifferences), NameOfDifference());
 
 TEST_F(QRMDependencyEquality, DisplayValuesCompareByTheLanguageMatchingRule)
 {

@@ -3,6 +3,7 @@
 // removing, copying, and how two devices compare.
 #include "QRMDevice.h"
 
+#include "FieldDifferences.h"
 #include "ModelBuilders.h"
 #include "TestSupport.h"
 
@@ -146,16 +147,7 @@ QRMDevice MakeFullDevice()
     return device;
 }
 
-// Two QRMDevice objects built alike, then one or both changed as the case says
-// (usually in one field); the case also says whether they still compare
-// equal. Each pair is compared with == and != both ways round.
-struct DeviceDifference {
-    const char* name;
-    void (*change)(QRMDevice& left, QRMDevice& right);
-    bool equal;
-};
-
-void PrintTo(const DeviceDifference& difference, std::ostream* out) { *out << difference.name; }
+using DeviceDifference = FieldDifference<QRMDevice>;
 
 const DeviceDifference kDeviceDifferences[] = {
     {"DifferentComponentIdsMakeThemUnequal",
@@ -885,21 +877,9 @@ TEST_F(QRMDeviceEquality, DevicesWithOneEqualEntryInEveryListAreEqual)
     EXPECT_FALSE(a != b);
 }
 
-TEST_P(QRMDeviceEquality, FieldDiffers)
-{
-    QRMDevice left;
-    QRMDevice right;
-    GetParam().change(left, right);
-    EXPECT_EQ(GetParam().equal, left == right);
-    EXPECT_EQ(!GetParam().equal, left != right);
-    EXPECT_EQ(GetParam().equal, right == left);
-    EXPECT_EQ(!GetParam().equal, right != left);
-}
+TEST_P(QRMDeviceEquality, FieldDiffers) { ExpectDifference(GetParam(), QRMDevice(), QRMDevice()); }
 
-INSTANTIATE_TEST_SUITE_P(, QRMDeviceEquality, testing::ValuesIn(kDeviceDifferences),
-                         [](const testing::TestParamInfo<DeviceDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(, QRMDeviceEquality, testing::ValuesIn(kDeviceDifferences), NameOfDifference());
 
 TEST_F(QRMDeviceEquality, ADeviceWithTwoDifferentPCIEntriesIsUnequalToItself)
 {

@@ -2,6 +2,7 @@
 // fields and how two compare.
 #include "QRMSoftwareComponent.h"
 
+#include "FieldDifferences.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -32,16 +33,7 @@ QRMFMPWrapperInformation WrapperNamed(const char* name)
     return wrapper;
 }
 
-// Two QRMFMPWrapperInformation objects built alike, then one or both changed as the case says
-// (usually in one field); the case also says whether they still compare
-// equal. Each pair is compared with == and != both ways round.
-struct WrapperDifference {
-    const char* name;
-    void (*change)(QRMFMPWrapperInformation& left, QRMFMPWrapperInformation& right);
-    bool equal;
-};
-
-void PrintTo(const WrapperDifference& difference, std::ostream* out) { *out << difference.name; }
+using WrapperDifference = FieldDifference<QRMFMPWrapperInformation>;
 
 const WrapperDifference kWrapperDifferences[] = {
     {"DigitallySignedFlagMakesWrappersUnequal",
@@ -147,19 +139,11 @@ TEST(QRMFMPWrapperInformationFields, CopyCarriesEveryFieldAndComparesEqual)
 
 TEST_P(QRMFMPWrapperInformationEquality, FieldDiffers)
 {
-    QRMFMPWrapperInformation left;
-    QRMFMPWrapperInformation right;
-    GetParam().change(left, right);
-    EXPECT_EQ(GetParam().equal, left == right);
-    EXPECT_EQ(!GetParam().equal, left != right);
-    EXPECT_EQ(GetParam().equal, right == left);
-    EXPECT_EQ(!GetParam().equal, right != left);
+    ExpectDifference(GetParam(), QRMFMPWrapperInformation(), QRMFMPWrapperInformation());
 }
 
 INSTANTIATE_TEST_SUITE_P(, QRMFMPWrapperInformationEquality, testing::ValuesIn(kWrapperDifferences),
-                         [](const testing::TestParamInfo<WrapperDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+                         NameOfDifference());
 
 // ================================================================= equality
 

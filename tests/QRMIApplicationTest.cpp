@@ -3,6 +3,7 @@
 #include "QRMIApplication.h"
 #include "QRMIDevice.h"
 
+#include "FieldDifferences.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -29,16 +30,7 @@ QRMIApplication Application(const char* display, const char* version, const char
     return application;
 }
 
-// Two QRMIApplication objects built alike, then one or both changed as the case says
-// (usually in one field); the case also says whether they still compare
-// equal. Each pair is compared with == and != both ways round.
-struct ApplicationDifference {
-    const char* name;
-    void (*change)(QRMIApplication& left, QRMIApplication& right);
-    bool equal;
-};
-
-void PrintTo(const ApplicationDifference& difference, std::ostream* out) { *out << difference.name; }
+using ApplicationDifference = FieldDifference<QRMIApplication>;
 
 const ApplicationDifference kApplicationDifferences[] = {
     {"ComponentTypeMakesApplicationsUnequal",
@@ -167,19 +159,10 @@ TEST(QRMIApplicationDisplayValues, RemoveReturnsNotFoundThenSuccess)
 
 TEST_P(QRMIApplicationEquality, FieldDiffers)
 {
-    QRMIApplication left = Application("d", "1");
-    QRMIApplication right = Application("d", "1");
-    GetParam().change(left, right);
-    EXPECT_EQ(GetParam().equal, left == right);
-    EXPECT_EQ(!GetParam().equal, left != right);
-    EXPECT_EQ(GetParam().equal, right == left);
-    EXPECT_EQ(!GetParam().equal, right != left);
+    ExpectDifference(GetParam(), Application("d", "1"), Application("d", "1"));
 }
 
-INSTANTIATE_TEST_SUITE_P(, QRMIApplicationEquality, testing::ValuesIn(kApplicationDifferences),
-                         [](const testing::TestParamInfo<ApplicationDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(, QRMIApplicationEquality, testing::ValuesIn(kApplicationDifferences), NameOfDifference());
 
 TEST(QRMIApplicationCopy, CopyCarriesEveryFieldAndItsOwnTexts)
 {

@@ -3,6 +3,7 @@
 #include "QRMIDevice.h"
 #include "QRMIApplication.h"
 
+#include "FieldDifferences.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -47,16 +48,7 @@ QRMIDevice FilledDevice()
     return device;
 }
 
-// Two QRMIDevice objects built alike, then one or both changed as the case says
-// (usually in one field); the case also says whether they still compare
-// equal. Each pair is compared with == and != both ways round.
-struct InventoryDeviceDifference {
-    const char* name;
-    void (*change)(QRMIDevice& left, QRMIDevice& right);
-    bool equal;
-};
-
-void PrintTo(const InventoryDeviceDifference& difference, std::ostream* out) { *out << difference.name; }
+using InventoryDeviceDifference = FieldDifference<QRMIDevice>;
 
 const InventoryDeviceDifference kInventoryDeviceDifferences[] = {
     {"DevicesWithDifferentApplicationsCompareEqual",
@@ -497,21 +489,9 @@ TEST_F(QRMIDeviceEquality, DeviceWithAnApplicationIsUnequalToItself)
     EXPECT_FALSE(device == alias);
 }
 
-TEST_P(QRMIDeviceEquality, FieldDiffers)
-{
-    QRMIDevice left = FilledDevice();
-    QRMIDevice right = FilledDevice();
-    GetParam().change(left, right);
-    EXPECT_EQ(GetParam().equal, left == right);
-    EXPECT_EQ(!GetParam().equal, left != right);
-    EXPECT_EQ(GetParam().equal, right == left);
-    EXPECT_EQ(!GetParam().equal, right != left);
-}
+TEST_P(QRMIDeviceEquality, FieldDiffers) { ExpectDifference(GetParam(), FilledDevice(), FilledDevice()); }
 
-INSTANTIATE_TEST_SUITE_P(, QRMIDeviceEquality, testing::ValuesIn(kInventoryDeviceDifferences),
-                         [](const testing::TestParamInfo<InventoryDeviceDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(, QRMIDeviceEquality, testing::ValuesIn(kInventoryDeviceDifferences), NameOfDifference());
 
 // ===================================================== copying, assignment
 

@@ -2,6 +2,7 @@
 // numeric tags, how two of them compare, and copying.
 #include "QRMOperatingSystem.h"
 
+#include "FieldDifferences.h"
 #include "ModelBuilders.h"
 #include "TestSupport.h"
 
@@ -40,16 +41,7 @@ std::vector<unsigned int> TagsOf(const QRMOperatingSystem& os)
     return tags;
 }
 
-// Two QRMOperatingSystem objects built alike, then one or both changed as the case says
-// (usually in one field); the case also says whether they still compare
-// equal. Each pair is compared with == and != both ways round.
-struct OperatingSystemDifference {
-    const char* name;
-    void (*change)(QRMOperatingSystem& a, QRMOperatingSystem& b);
-    bool equal;
-};
-
-void PrintTo(const OperatingSystemDifference& difference, std::ostream* out) { *out << difference.name; }
+using OperatingSystemDifference = FieldDifference<QRMOperatingSystem>;
 
 const OperatingSystemDifference kOperatingSystemDifferences[] = {
     {"ObjectsWithAllFieldsEqualAreEqual",
@@ -267,21 +259,10 @@ TEST_F(QRMOperatingSystemEquality, TwoNewObjectsAreEqual)
     EXPECT_FALSE(a != b);
 }
 
-TEST_P(QRMOperatingSystemEquality, FieldDiffers)
-{
-    QRMOperatingSystem a = MakeOS("WIN64");
-    QRMOperatingSystem b = MakeOS("WIN64");
-    GetParam().change(a, b);
-    EXPECT_EQ(GetParam().equal, a == b);
-    EXPECT_EQ(!GetParam().equal, a != b);
-    EXPECT_EQ(GetParam().equal, b == a);
-    EXPECT_EQ(!GetParam().equal, b != a);
-}
+TEST_P(QRMOperatingSystemEquality, FieldDiffers) { ExpectDifference(GetParam(), MakeOS("WIN64"), MakeOS("WIN64")); }
 
 INSTANTIATE_TEST_SUITE_P(, QRMOperatingSystemEquality, testing::ValuesIn(kOperatingSystemDifferences),
-                         [](const testing::TestParamInfo<OperatingSystemDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+                         NameOfDifference());
 
 TEST_F(QRMOperatingSystemEquality, TwoDifferentTagsOnEachSideAreUnequalEvenInTheSameOrder)
 {

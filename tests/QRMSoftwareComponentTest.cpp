@@ -2,6 +2,7 @@
 // supported devices and wrappers, copying, and how two compare.
 #include "QRMSoftwareComponent.h"
 
+#include "FieldDifferences.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -190,16 +191,7 @@ QRMSoftwareComponent FilledComponent()
     return component;
 }
 
-// Two QRMSoftwareComponent objects built alike, then one or both changed as the case says
-// (usually in one field); the case also says whether they still compare
-// equal. Each pair is compared with == and != both ways round.
-struct ComponentDifference {
-    const char* name;
-    void (*change)(QRMSoftwareComponent& left, QRMSoftwareComponent& right);
-    bool equal;
-};
-
-void PrintTo(const ComponentDifference& difference, std::ostream* out) { *out << difference.name; }
+using ComponentDifference = FieldDifference<QRMSoftwareComponent>;
 
 const ComponentDifference kComponentDifferences[] = {
     {"HashesDifferingOnlyInCaseMakeComponentsUnequal",
@@ -1189,19 +1181,10 @@ TEST_F(QRMSoftwareComponentEquality, FullyFilledComponentsBuiltAlikeAreEqual)
 
 TEST_P(QRMSoftwareComponentEquality, FieldDiffers)
 {
-    QRMSoftwareComponent left;
-    QRMSoftwareComponent right;
-    GetParam().change(left, right);
-    EXPECT_EQ(GetParam().equal, left == right);
-    EXPECT_EQ(!GetParam().equal, left != right);
-    EXPECT_EQ(GetParam().equal, right == left);
-    EXPECT_EQ(!GetParam().equal, right != left);
+    ExpectDifference(GetParam(), QRMSoftwareComponent(), QRMSoftwareComponent());
 }
 
-INSTANTIATE_TEST_SUITE_P(, QRMSoftwareComponentEquality, testing::ValuesIn(kComponentDifferences),
-                         [](const testing::TestParamInfo<ComponentDifference>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(, QRMSoftwareComponentEquality, testing::ValuesIn(kComponentDifferences), NameOfDifference());
 
 TEST_F(QRMSoftwareComponentEquality, EachFieldChangedOnAFilledComponentMakesItUnequal)
 {
