@@ -663,7 +663,7 @@ void RemoveEveryOrderAndMatchTheModel(const std::vector<std::string>& order)
 
 }  // namespace
 
-TEST(DisplayValueMemory, RemovalInEveryOrderFollowsTheRemovalRuleOnAName)
+TEST(AcrossTextHoldersDisplayValueMemory, RemovalInEveryOrderFollowsTheRemovalRuleOnAName)
 {
     std::vector<std::string> order{"de", "en", "fr", "it", ""};
     std::sort(order.begin(), order.end());
@@ -675,7 +675,7 @@ TEST(DisplayValueMemory, RemovalInEveryOrderFollowsTheRemovalRuleOnAName)
     EXPECT_EQ(120, permutations);
 }
 
-TEST(DisplayValueMemory, RemovalInEveryOrderFollowsTheRemovalRuleOnOtherHolders)
+TEST(AcrossTextHoldersDisplayValueMemory, RemovalInEveryOrderFollowsTheRemovalRuleOnOtherHolders)
 {
     std::vector<std::string> order{"de", "en", "fr", "it"};
     do {
@@ -686,7 +686,7 @@ TEST(DisplayValueMemory, RemovalInEveryOrderFollowsTheRemovalRuleOnOtherHolders)
     } while (std::next_permutation(order.begin(), order.end()));
 }
 
-TEST(DisplayValueMemory, HoldersSurviveMixedRemovalsCopiesAndAssignments)
+TEST(AcrossTextHoldersDisplayValueMemory, HoldersSurviveMixedRemovalsCopiesAndAssignments)
 {
     std::unique_ptr<QRMName> name(new QRMName);
     AddTexts(*name, {{"en", "A"}, {"fr", "B"}, {"de", "C"}});

@@ -647,7 +647,7 @@ TEST(QRMDeviceSeldomRecords, AssigningARecordlessDeviceOverAFullOneLeavesItNew)
 
 // ---- by-value setters leave an lvalue argument alone
 
-TEST(QRMByValueSetters, DeviceAddersLeaveTheirArgumentsUnchanged)
+TEST(AcrossValueClassesByValueSetters, DeviceAddersLeaveTheirArgumentsUnchanged)
 {
     QRMDevice device;
     QRMPCIInfo pci = NthPCI(3);
@@ -667,7 +667,7 @@ TEST(QRMByValueSetters, DeviceAddersLeaveTheirArgumentsUnchanged)
     EXPECT_EQ(Str(Long("C:\\rollback\\package")), Str(rollback.GetPackagePath()));
 }
 
-TEST(QRMByValueSetters, ComponentSettersLeaveTheirArgumentsUnchanged)
+TEST(AcrossValueClassesByValueSetters, ComponentSettersLeaveTheirArgumentsUnchanged)
 {
     QRMSoftwareComponent component;
     VELString path = Long("FOLDER/driver");
@@ -714,7 +714,7 @@ TEST(QRMByValueSetters, ComponentSettersLeaveTheirArgumentsUnchanged)
     ExpectFullRecords(device);
 }
 
-TEST(QRMByValueSetters, OtherSettersLeaveTheirArgumentsUnchanged)
+TEST(AcrossValueClassesByValueSetters, OtherSettersLeaveTheirArgumentsUnchanged)
 {
     VELString code = Long("code");
     QRMOperatingSystem os;
@@ -1050,7 +1050,7 @@ TEST(QRMSoftwareComponentSeldom, SelfAssignmentEmptiesWrappersAndKeepsTheOtherRe
 
 // ================================================= other value classes
 
-TEST(QRMValueMoves, NameMoveHandsOverTheSameTextObjects)
+TEST(AcrossValueClassesMoves, NameMoveHandsOverTheSameTextObjects)
 {
     QRMName source;
     source.AddDisplayValue("en", Long("Driver"));
@@ -1081,7 +1081,7 @@ TEST(QRMValueMoves, NameMoveHandsOverTheSameTextObjects)
     EXPECT_EQ(Str(Long("Driver")), Str(copied[0]->GetValue()));
 }
 
-TEST(QRMValueMoves, OperatingSystemMoveKeepsTagsAndTextsAndEmptiesTheSource)
+TEST(AcrossValueClassesMoves, OperatingSystemMoveKeepsTagsAndTextsAndEmptiesTheSource)
 {
     QRMOperatingSystem source;
     source.SetCode(Long("WIN"));
@@ -1113,7 +1113,7 @@ TEST(QRMValueMoves, OperatingSystemMoveKeepsTagsAndTextsAndEmptiesTheSource)
     EXPECT_EQ(QRM_KIT_ALREADY_EXISTS, copy.AddNumericTag(3));
 }
 
-TEST(QRMValueMoves, SupportedSystemsMoveHandsOverTheSameBrands)
+TEST(AcrossValueClassesMoves, SupportedSystemsMoveHandsOverTheSameBrands)
 {
     QRMSupportedSystems source;
     source.SetDisplay(true);
@@ -1136,7 +1136,7 @@ TEST(QRMValueMoves, SupportedSystemsMoveHandsOverTheSameBrands)
     EXPECT_TRUE(left.empty());
 }
 
-TEST(QRMValueMoves, BundleMoveKeepsContentsInOrder)
+TEST(AcrossValueClassesMoves, BundleMoveKeepsContentsInOrder)
 {
     QRMSoftwareBundle source;
     for (int i = 0; i < 50; ++i) {
@@ -1377,7 +1377,7 @@ TEST(QRMIDeviceApplicationDuplicates, AssignmentKeepsTheTargetsOwnApplicationsFo
 
 // ========================================================= path views
 
-TEST(QRMPathViews, BundleContentPathViewHasTheSameUnitsAsGetPath)
+TEST(AcrossValueClassesPathViews, BundleContentPathViewHasTheSameUnitsAsGetPath)
 {
     const char* paths[] = {
         "", "a", "abcdefg", "abcdefgh", "FOLDER01/driver_setup_A00.exe", "dir/caf\xC3\xA9/\xF0\x9F\x98\x80.exe"};
@@ -1401,7 +1401,7 @@ TEST(QRMPathViews, BundleContentPathViewHasTheSameUnitsAsGetPath)
     EXPECT_EQ(u"short", content.GetPathView());
 }
 
-TEST(QRMPathViews, SoftwareComponentPathViewHasTheSameUnitsAsGetPath)
+TEST(AcrossValueClassesPathViews, SoftwareComponentPathViewHasTheSameUnitsAsGetPath)
 {
     const char* paths[] = {
         "", "a", "abcdefg", "abcdefgh", "FOLDER01/driver_setup_A00.exe", "dir/caf\xC3\xA9/\xF0\x9F\x98\x80.exe"};

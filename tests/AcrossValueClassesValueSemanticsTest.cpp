@@ -210,7 +210,7 @@ TEST(InventoryApplicationValue, MovesCarryEveryField)
     EXPECT_EQ(VELString("7"), target.GetSubComponentID());
 }
 
-TEST(CatalogRecordMoves, RollbackInformationCarriesEveryField)
+TEST(AcrossCatalogRecordsMoves, RollbackInformationCarriesEveryField)
 {
     QRMRollbackInformation source;
     source.SetRollbackIdentifier(Guid(9));
@@ -231,7 +231,7 @@ TEST(CatalogRecordMoves, RollbackInformationCarriesEveryField)
     EXPECT_EQ(VELString("before 2.4"), target.GetNote());
 }
 
-TEST(CatalogRecordMoves, DependenciesCarryEveryField)
+TEST(AcrossCatalogRecordsMoves, DependenciesCarryEveryField)
 {
     QRMDependency source;
     source.SetType(2);
@@ -262,7 +262,7 @@ TEST(CatalogRecordMoves, DependenciesCarryEveryField)
     EXPECT_EQ(1u, applicabilities.size());
 }
 
-TEST(CatalogRecordMoves, WrapperInformationCarriesEveryField)
+TEST(AcrossCatalogRecordsMoves, WrapperInformationCarriesEveryField)
 {
     QRMFMPWrapperInformation source;
     source.SetDigitallySigned(true);
@@ -281,7 +281,7 @@ TEST(CatalogRecordMoves, WrapperInformationCarriesEveryField)
     EXPECT_EQ(Guid(10), target.GetIdentifier());
 }
 
-TEST(CatalogRecordMoves, CollectorEntryCarriesEveryField)
+TEST(AcrossCatalogRecordsMoves, CollectorEntryCarriesEveryField)
 {
     QRMInventoryComponent source;
     source.SetOSCode(VELString("W22"));
@@ -295,7 +295,7 @@ TEST(CatalogRecordMoves, CollectorEntryCarriesEveryField)
     EXPECT_EQ(1700000000ull, moved.GetDateTime().GetValue());
 }
 
-TEST(CatalogRecordMoves, SystemsAndOperatingSystemsCarryEveryField)
+TEST(AcrossCatalogRecordsMoves, SystemsAndOperatingSystemsCarryEveryField)
 {
     QRMOperatingSystem os;
     os.SetCode(VELString("W22"));
