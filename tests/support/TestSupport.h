@@ -10,11 +10,26 @@
 
 #include <QRMKit.h>
 
+#include <gtest/gtest.h>
+
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
+
+// Display texts as (language, value) pairs, in order.
+typedef std::vector<std::pair<std::string, std::string>> TextList;
+
+// Adds each text to a holder, checking that every add succeeds.
+template <class Holder>
+void AddTexts(Holder& holder, const TextList& texts)
+{
+    for (const auto& text : texts) {
+        ASSERT_EQ(QRM_KIT_SUCCESS,
+                  holder.AddDisplayValue(VELString(text.first.c_str()), VELString(text.second.c_str())));
+    }
+}
 
 // A fresh directory under the system's temporary directory, removed with
 // everything in it when the object goes.
