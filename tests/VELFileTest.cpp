@@ -1,4 +1,4 @@
-// The file, time and GUID values of the base layer.
+// VELFile: a path, and whether a regular file is there.
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -83,66 +83,4 @@ TEST(VELFile, PathWithEmbeddedNulDoesNotExist)
     units.push_back(0);
     units += u"tail";
     EXPECT_FALSE(VELFile(VELString(units)).Exists());
-}
-
-TEST(VELTime, DefaultIsZero) { EXPECT_EQ(0ull, VELTime().GetValue()); }
-
-TEST(VELTime, KeepsTheFullSixtyFourBitValue)
-{
-    EXPECT_EQ(1763683200ull, VELTime(1763683200ull).GetValue());
-    EXPECT_EQ(18446744073709551615ull, VELTime(18446744073709551615ull).GetValue());
-    VELTime original(42);
-    VELTime copy(original);
-    VELTime assigned;
-    assigned = original;
-    EXPECT_EQ(42ull, copy.GetValue());
-    EXPECT_EQ(42ull, assigned.GetValue());
-}
-
-TEST(VELTime, EqualityFollowsTheValue)
-{
-    EXPECT_TRUE(VELTime(5) == VELTime(5));
-    EXPECT_FALSE(VELTime(5) != VELTime(5));
-    EXPECT_TRUE(VELTime(5) != VELTime(6));
-    EXPECT_FALSE(VELTime(5) == VELTime(6));
-    EXPECT_TRUE(VELTime() == VELTime(0));
-    EXPECT_TRUE(VELTime(0) != VELTime(1ull << 32));
-}
-
-TEST(VELGUID, DefaultIsNil)
-{
-    VELGUID guid;
-    EXPECT_TRUE(guid.IsNil());
-    EXPECT_EQ(VELGUID::Bytes{}, guid.GetBytes());
-}
-
-TEST(VELGUID, BytesAreKeptAndNotNil)
-{
-    VELGUID::Bytes bytes = {0x12, 0x34, 0x56, 0x78, 0x9a, 0xbc, 0xde, 0xf0,
-                            0x01, 0x23, 0x45, 0x67, 0x89, 0xab, 0xcd, 0xef};
-    VELGUID guid(bytes);
-    EXPECT_FALSE(guid.IsNil());
-    EXPECT_EQ(bytes, guid.GetBytes());
-    VELGUID copy(guid);
-    VELGUID assigned;
-    assigned = guid;
-    EXPECT_EQ(bytes, copy.GetBytes());
-    EXPECT_EQ(bytes, assigned.GetBytes());
-}
-
-TEST(VELGUID, EqualityComparesAllBytes)
-{
-    VELGUID::Bytes bytes{};
-    bytes[15] = 1;
-    VELGUID last(bytes);
-    bytes[15] = 0;
-    bytes[0] = 1;
-    VELGUID first(bytes);
-    EXPECT_TRUE(VELGUID() == VELGUID());
-    EXPECT_FALSE(VELGUID() != VELGUID());
-    EXPECT_TRUE(last != VELGUID());
-    EXPECT_TRUE(first != last);
-    EXPECT_FALSE(first == last);
-    EXPECT_TRUE(first == VELGUID(bytes));
-    EXPECT_FALSE(first != VELGUID(bytes));
 }
