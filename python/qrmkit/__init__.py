@@ -114,7 +114,6 @@ library_version: str = _qrmkit.library_version
 
 PathArg = Union[str, bytes, "os.PathLike[str]", "os.PathLike[bytes]"]
 
-_BUNDLE_TYPES = ("auto", "BTW32", "BTW64", "BTLX", "BTRPM", "BTDEB", "BTOSIND")
 
 
 # ---------------------------------------------------------------- records

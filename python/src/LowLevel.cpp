@@ -37,7 +37,9 @@ VELFile ToFile(const py::object& path)
     return VELFile(encoded.cast<std::string>());
 }
 
-struct EnumSpec {
+// One of the library's enumerations as Python sees it: its IntEnum's name,
+// docstring and members (the C++ enumerator names and values).
+struct EnumerationTable {
     EnumKind kind;
     const char* name;
     const char* doc;
@@ -93,7 +95,7 @@ py::object EnumValue(EnumKind kind, int value)
 
 void DefineEnums(py::module_& module)
 {
-    const std::vector<EnumSpec> specs = {
+    const std::vector<EnumerationTable> enumerations = {
         {EnumKind::ReturnCode,
          "QRMKitReturnCode",
          "The result of the library's operations (the value 2 is never returned).",
@@ -158,21 +160,21 @@ void DefineEnums(py::module_& module)
           {"QRM_SYSTEMID_TYPE_NETWORKSWITCH", QRM_SYSTEMID_TYPE_NETWORKSWITCH}}},
     };
     py::object intEnum = py::module_::import("enum").attr("IntEnum");
-    for (const EnumSpec& spec : specs) {
+    for (const EnumerationTable& enumeration : enumerations) {
         py::list members;
-        for (const auto& member : spec.members) {
+        for (const auto& member : enumeration.members) {
             members.append(py::make_tuple(member.first, member.second));
         }
-        py::object cls =
-            intEnum(spec.name, members, py::arg("module") = "qrmkit.lowlevel", py::arg("qualname") = spec.name);
-        cls.attr("__doc__") = spec.doc;
+        py::object cls = intEnum(enumeration.name, members, py::arg("module") = "qrmkit.lowlevel",
+                                 py::arg("qualname") = enumeration.name);
+        cls.attr("__doc__") = enumeration.doc;
         py::dict byValue;
-        for (const auto& member : spec.members) {
+        for (const auto& member : enumeration.members) {
             byValue[py::int_(member.second)] = cls.attr(member.first);
         }
-        gEnums[static_cast<int>(spec.kind)] = new py::object(cls);
-        gEnumMembers[static_cast<int>(spec.kind)] = new py::object(byValue);
-        module.attr(spec.name) = cls;
+        gEnums[static_cast<int>(enumeration.kind)] = new py::object(cls);
+        gEnumMembers[static_cast<int>(enumeration.kind)] = new py::object(byValue);
+        module.attr(enumeration.name) = cls;
     }
 }
 
@@ -400,11 +402,7 @@ void DefineLowLevel(py::module_& module)
             return Locked([&] {
                 std::vector<QRMSoftwareComponent*> components;
                 self.GetSoftwareComponents(components);
-                std::vector<Shared<QRMSoftwareComponent>> shared;
-                for (const QRMSoftwareComponent* component : components) {
-                    shared.push_back({Ref<QRMSoftwareComponent>::InStore(component, Store::Catalog)});
-                }
-                return shared;
+                return InStoreAll(components, Store::Catalog);
             });
         },
         "The catalog store's components, in catalog order; they become stale at the next Reset or Parse(path).");
@@ -414,11 +412,7 @@ void DefineLowLevel(py::module_& module)
             return Locked([&] {
                 std::vector<QRMSoftwareBundle*> bundles;
                 self.GetSoftwareBundles(bundles);
-                std::vector<Shared<QRMSoftwareBundle>> shared;
-                for (const QRMSoftwareBundle* bundle : bundles) {
-                    shared.push_back({Ref<QRMSoftwareBundle>::InStore(bundle, Store::Catalog)});
-                }
-                return shared;
+                return InStoreAll(bundles, Store::Catalog);
             });
         },
         "The catalog store's bundles, in catalog order; they become stale at the next Reset or Parse(path).");
@@ -452,11 +446,7 @@ void DefineLowLevel(py::module_& module)
             return Locked([&] {
                 std::vector<QRMIDevice*> devices;
                 QRMKitReturnCode code = self.GetInventory(devices);
-                std::vector<Shared<QRMIDevice>> shared;
-                for (const QRMIDevice* device : devices) {
-                    shared.push_back({Ref<QRMIDevice>::InStore(device, Store::Inventory)});
-                }
-                return std::make_pair(code, std::move(shared));
+                return std::make_pair(code, InStoreAll(devices, Store::Inventory));
             });
         },
         "(code, [devices]): the devices of the inventory store (of every inventory read); QRM_KIT_FAILURE and [] "

@@ -113,6 +113,18 @@ std::vector<Ref<T>> OwnAll(std::vector<T>&& values)
     return refs;
 }
 
+// Objects a store holds, as the library lists them.
+template <class T>
+std::vector<Shared<T>> InStoreAll(const std::vector<T*>& objects, Store store)
+{
+    std::vector<Shared<T>> shared;
+    shared.reserve(objects.size());
+    for (const T* object : objects) {
+        shared.push_back(Shared<T>{Ref<T>::InStore(object, store)});
+    }
+    return shared;
+}
+
 template <class T, class U>
 std::vector<Shared<U>> PartsOf(const Ref<T>& holder, const std::vector<U*>& parts)
 {

@@ -6,7 +6,6 @@ import os
 import shutil
 import subprocess
 import sys
-from pathlib import Path
 
 import pytest
 
@@ -219,3 +218,36 @@ def test_fleet_with_an_unreadable_catalog_raises(tmp_path, generated):
     assert raised.value.file == str(tmp_path / "none.xml")
     with pytest.raises(qrmkit.NotACatalogError):
         qrmkit.fleet(generated[0][1], [generated[0][1]])
+
+
+def test_answers_stay_isolated_after_the_low_level_layer_has_read_documents(tool, examples, generated):
+    catalog, inventory = generated[1]
+    expected, status = tool_updates(catalog, inventory)
+    assert status in (0, 100)
+    fleet_expected, _ = fleet_tool(catalog, [inventory, inventory])
+    script = """
+import json, sys, qrmkit
+from qrmkit.lowlevel import QRMKitAPI
+catalog, inventory, other, forked = sys.argv[1:]
+# Another computer's inventory in this process's store: a child forked from
+# here would hold two systems, and no bundle would apply.
+QRMKitAPI.Instance().ParseInventory(other)
+if forked == "forked":
+    qrmkit._qrmkit._stores_touched = lambda: False
+try:
+    document = qrmkit.updates(catalog, inventory).document
+except qrmkit.Error as error:
+    document = {"error": error.to_dict()}
+print(json.dumps({"updates": document, "fleet": list(qrmkit.fleet(catalog, [inventory, inventory]))}))
+"""
+    def answer(forked):
+        done = subprocess.run([sys.executable, "-c", script, str(catalog), str(inventory),
+                               str(examples / "inventory.xml"), forked], stdout=subprocess.PIPE, check=True)
+        return json.loads(done.stdout)
+
+    isolated = answer("fresh")
+    assert isolated["updates"] == expected
+    assert isolated["fleet"] == fleet_expected
+    # What the fresh interpreter prevents: a child forked from the touched
+    # process answers with the other computer's devices in its store.
+    assert answer("forked")["updates"] != expected

@@ -1,7 +1,6 @@
 """Failures raise qrmkit.Error subclasses with the tool's codes and messages."""
 
 import re
-from pathlib import Path
 
 import pytest
 

@@ -5,9 +5,7 @@ import json
 import os
 import subprocess
 import sys
-from pathlib import Path
 
-import pytest
 
 from conftest import EXAMPLES, run_tool
 

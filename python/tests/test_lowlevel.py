@@ -5,10 +5,7 @@ The library keeps process-wide stores, so every check runs in an interpreter
 of its own: a script (the prelude below, then the test's lines) asserting as
 it goes, whose exit status and output the test reads."""
 
-import ast
-import inspect
 import json
-import os
 import subprocess
 import sys
 import textwrap
@@ -603,44 +600,3 @@ def test_reading_a_document_marks_the_stores_touched():
             {call}
             assert qrmkit._qrmkit._stores_touched()
         """)
-
-
-# ---------------------------------------------------------------- the module
-
-
-def stub_names(path):
-    tree = ast.parse(path.read_text())
-    names = set()
-    for node in tree.body:
-        if isinstance(node, (ast.FunctionDef, ast.ClassDef)):
-            names.add(node.name)
-        elif isinstance(node, ast.ImportFrom):
-            names.update(alias.asname or alias.name for alias in node.names)
-    return names
-
-
-def test_every_public_name_has_a_stub_and_a_docstring():
-    names = stub_names(PACKAGE / "lowlevel.pyi")
-    assert inspect.getdoc(qrmkit.lowlevel)
-    for name in qrmkit.lowlevel.__all__:
-        assert name in names, f"{name} has no stub in lowlevel.pyi"
-        value = getattr(qrmkit.lowlevel, name)
-        assert inspect.getdoc(value), f"{name} has no docstring"
-        if inspect.isclass(value) and not issubclass(value, (int, Exception)):
-            for method, function in vars(value).items():
-                if not method.startswith("_"):
-                    assert inspect.getdoc(function), f"{name}.{method} has no docstring"
-
-
-def test_the_stub_passes_a_strict_type_check(tmp_path):
-    try:
-        import mypy  # noqa: F401
-    except ImportError:
-        ast.parse((PACKAGE / "lowlevel.pyi").read_text())
-        return
-    done = subprocess.run(
-        [sys.executable, "-m", "mypy", "--strict", "--no-incremental", "--cache-dir", str(tmp_path),
-         str(PACKAGE / "lowlevel.pyi")],
-        env=dict(os.environ, MYPYPATH=str(PACKAGE.parent)), cwd=tmp_path,
-        stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
-    assert done.returncode == 0, done.stdout.decode()

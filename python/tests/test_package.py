@@ -10,6 +10,7 @@ from pathlib import Path
 
 import qrmkit
 import qrmkit.dask
+import qrmkit.lowlevel
 from conftest import SOURCE, run_tool
 
 PACKAGE = Path(qrmkit.__file__).parent
@@ -32,19 +33,27 @@ def stub_names(path):
 
 def test_every_public_name_has_a_stub_and_a_docstring():
     assert (PACKAGE / "py.typed").exists()
-    for module, stub in ((qrmkit, "__init__.pyi"), (qrmkit.dask, "dask.pyi")):
+    modules = ((qrmkit, "__init__.pyi"), (qrmkit.dask, "dask.pyi"), (qrmkit.lowlevel, "lowlevel.pyi"))
+    for module, stub in modules:
+        assert inspect.getdoc(module), f"{module.__name__} has no docstring"
         names = stub_names(PACKAGE / stub)
         for name in module.__all__:
             assert name in names, f"{name} has no stub in {stub}"
             value = getattr(module, name)
-            if inspect.isclass(value) or inspect.isfunction(value):
-                assert inspect.getdoc(value), f"{module.__name__}.{name} has no docstring"
+            if not (inspect.isclass(value) or callable(value)):
+                continue
+            assert inspect.getdoc(value), f"{module.__name__}.{name} has no docstring"
+            if inspect.isclass(value) and not issubclass(value, (int, Exception)):
+                for method, function in vars(value).items():
+                    if not method.startswith("_") and callable(function):
+                        assert inspect.getdoc(function), f"{module.__name__}.{name}.{method} has no docstring"
 
 
 def test_the_stubs_and_the_example_pass_a_strict_type_check(tmp_path):
     done = subprocess.run(
         [sys.executable, "-m", "mypy", "--strict", "--no-incremental", "--cache-dir", str(tmp_path),
-         str(PACKAGE / "__init__.pyi"), str(PACKAGE / "dask.pyi"), str(PACKAGE / "_errors.py"),
+         str(PACKAGE / "__init__.pyi"), str(PACKAGE / "dask.pyi"), str(PACKAGE / "lowlevel.pyi"),
+         str(PACKAGE / "_errors.py"),
          str(SOURCE / "examples" / "python" / "pending_updates.py")],
         env=dict(os.environ, MYPYPATH=str(PACKAGE.parent)), cwd=tmp_path,
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
