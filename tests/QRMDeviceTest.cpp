@@ -243,6 +243,30 @@ const DeviceDifference kDeviceDifferences[] = {
 
 class QRMDeviceEquality : public testing::TestWithParam<DeviceDifference> {};
 
+// A device list compared by the all-pairs rule (kept for compatibility):
+// one entry against none is unequal, the same entry on both sides equal,
+// two different entries on both sides unequal (each is compared with the
+// other too), and one entry against another unequal.
+template <class Entry>
+void ExpectAllPairsList(QRMKitReturnCode (QRMDevice::*add)(Entry&), Entry& first, Entry& second)
+{
+    QRMDevice a;
+    QRMDevice b;
+    (a.*add)(first);
+    EXPECT_FALSE(a == b);
+    (b.*add)(first);
+    EXPECT_TRUE(a == b);
+    (a.*add)(second);
+    (b.*add)(second);
+    EXPECT_FALSE(a == b);
+
+    QRMDevice c;
+    QRMDevice d;
+    (c.*add)(first);
+    (d.*add)(second);
+    EXPECT_FALSE(c == d);
+}
+
 }  // namespace
 
 TEST(QRMDeviceFields, NewDeviceHasIdZeroIsNotEmbeddedAndHoldsNothing)
@@ -907,84 +931,28 @@ TEST_F(QRMDeviceEquality, SubComponentListsCompareByTheAllPairsRule)
 {
     QRMSubComponent first = MakeSubComponent("A", "1");
     QRMSubComponent second = MakeSubComponent("B", "2");
-    QRMDevice a;
-    QRMDevice b;
-    a.AddSubComponent(first);
-    EXPECT_FALSE(a == b);
-    b.AddSubComponent(first);
-    EXPECT_TRUE(a == b);
-    a.AddSubComponent(second);
-    b.AddSubComponent(second);
-    EXPECT_FALSE(a == b);
-
-    QRMDevice c;
-    QRMDevice d;
-    c.AddSubComponent(first);
-    d.AddSubComponent(second);
-    EXPECT_FALSE(c == d);
+    ExpectAllPairsList(&QRMDevice::AddSubComponent, first, second);
 }
 
 TEST_F(QRMDeviceEquality, DependencyListsCompareByTheAllPairsRule)
 {
     QRMDependency first = MakeDependency("A");
     QRMDependency second = MakeDependency("B");
-    QRMDevice a;
-    QRMDevice b;
-    a.AddDependency(first);
-    EXPECT_FALSE(a == b);
-    b.AddDependency(first);
-    EXPECT_TRUE(a == b);
-    a.AddDependency(second);
-    b.AddDependency(second);
-    EXPECT_FALSE(a == b);
-
-    QRMDevice c;
-    QRMDevice d;
-    c.AddDependency(first);
-    d.AddDependency(second);
-    EXPECT_FALSE(c == d);
+    ExpectAllPairsList(&QRMDevice::AddDependency, first, second);
 }
 
 TEST_F(QRMDeviceEquality, SoftDependencyListsCompareByTheAllPairsRule)
 {
     QRMSoftDependency first = MakeSoftDependency("A");
     QRMSoftDependency second = MakeSoftDependency("B");
-    QRMDevice a;
-    QRMDevice b;
-    a.AddSoftDependency(first);
-    EXPECT_FALSE(a == b);
-    b.AddSoftDependency(first);
-    EXPECT_TRUE(a == b);
-    a.AddSoftDependency(second);
-    b.AddSoftDependency(second);
-    EXPECT_FALSE(a == b);
-
-    QRMDevice c;
-    QRMDevice d;
-    c.AddSoftDependency(first);
-    d.AddSoftDependency(second);
-    EXPECT_FALSE(c == d);
+    ExpectAllPairsList(&QRMDevice::AddSoftDependency, first, second);
 }
 
 TEST_F(QRMDeviceEquality, ApplicabilityListsCompareByTheAllPairsRule)
 {
     QRMDeviceApplicability first("en", "Desktop");
     QRMDeviceApplicability second("en", "Laptop");
-    QRMDevice a;
-    QRMDevice b;
-    a.AddApplicability(first);
-    EXPECT_FALSE(a == b);
-    b.AddApplicability(first);
-    EXPECT_TRUE(a == b);
-    a.AddApplicability(second);
-    b.AddApplicability(second);
-    EXPECT_FALSE(a == b);
-
-    QRMDevice c;
-    QRMDevice d;
-    c.AddApplicability(first);
-    d.AddApplicability(second);
-    EXPECT_FALSE(c == d);
+    ExpectAllPairsList(&QRMDevice::AddApplicability, first, second);
 }
 
 TEST(QRMDeviceCopy, CopyCarriesEveryFieldAndEveryList)
