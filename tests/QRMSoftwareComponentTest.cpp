@@ -675,19 +675,47 @@ TEST(QRMSoftwareComponentFields, SetPredecessorStoresTheGuid)
     EXPECT_TRUE(component.GetPredecessor() == Guid(0x7C));
 }
 
-TEST(QRMSoftwareComponentFields, SetSchemaVersionStoresTheText)
+namespace {
+
+// A text field: its setter returns QRM_KIT_SUCCESS and its getter gives the
+// text back exactly as it was set, whatever it holds.
+struct TextField {
+    const char* name;
+    QRMKitReturnCode (QRMSoftwareComponent::*set)(VELString);
+    VELString (QRMSoftwareComponent::*get)() const;
+    const char* text;
+};
+
+void PrintTo(const TextField& field, std::ostream* out) { *out << field.name; }
+
+const TextField kTextFields[] = {
+    {"SchemaVersion", &QRMSoftwareComponent::SetSchemaVersion, &QRMSoftwareComponent::GetSchemaVersion, "2.1"},
+    {"ReleaseID", &QRMSoftwareComponent::SetReleaseID, &QRMSoftwareComponent::GetReleaseID, "X7K2P"},
+    {"VendorVersion", &QRMSoftwareComponent::SetVendorVersion, &QRMSoftwareComponent::GetVendorVersion, "A12"},
+    {"TolvarVersion", &QRMSoftwareComponent::SetTolvarVersion, &QRMSoftwareComponent::GetTolvarVersion, "10.0.1"},
+    {"PackageType", &QRMSoftwareComponent::SetPackageType, &QRMSoftwareComponent::GetPackageType, "LW64"},
+    {"XMLGenVersion", &QRMSoftwareComponent::SetXMLGenVersion, &QRMSoftwareComponent::GetXMLGenVersion, "2.5.0"},
+    {"Path", &QRMSoftwareComponent::SetPath, &QRMSoftwareComponent::GetPath, "FOLDER01/pkg.exe"},
+    {"PackageID", &QRMSoftwareComponent::SetPackageID, &QRMSoftwareComponent::GetPackageID, "8H2KC"},
+    {"MD5HashAsGiven", &QRMSoftwareComponent::SetMD5Hash, &QRMSoftwareComponent::GetMD5Hash,
+     "D41D8cd98f00b204e9800998ecf8427e"},
+    {"MD5HashMalformedAndUnchecked", &QRMSoftwareComponent::SetMD5Hash, &QRMSoftwareComponent::GetMD5Hash,
+     "not a hash"},
+};
+
+class QRMSoftwareComponentTextFields : public testing::TestWithParam<TextField> {};
+
+}  // namespace
+
+TEST_P(QRMSoftwareComponentTextFields, StoresTheText)
 {
     QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetSchemaVersion(VELString("2.1")));
-    EXPECT_EQ("2.1", Str(component.GetSchemaVersion()));
+    EXPECT_EQ(QRM_KIT_SUCCESS, (component.*GetParam().set)(VELString(GetParam().text)));
+    EXPECT_EQ(GetParam().text, Str((component.*GetParam().get)()));
 }
 
-TEST(QRMSoftwareComponentFields, SetReleaseIDStoresTheText)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetReleaseID(VELString("X7K2P")));
-    EXPECT_EQ("X7K2P", Str(component.GetReleaseID()));
-}
+INSTANTIATE_TEST_SUITE_P(, QRMSoftwareComponentTextFields, testing::ValuesIn(kTextFields),
+                         [](const testing::TestParamInfo<TextField>& info) { return std::string(info.param.name); });
 
 TEST(QRMSoftwareComponentFields, SetReleaseDateStoresTheTime)
 {
@@ -696,67 +724,11 @@ TEST(QRMSoftwareComponentFields, SetReleaseDateStoresTheTime)
     EXPECT_EQ(987654321ULL, component.GetReleaseDate().GetValue());
 }
 
-TEST(QRMSoftwareComponentFields, SetVendorVersionStoresTheText)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetVendorVersion(VELString("A12")));
-    EXPECT_EQ("A12", Str(component.GetVendorVersion()));
-}
-
-TEST(QRMSoftwareComponentFields, SetTolvarVersionStoresTheText)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetTolvarVersion(VELString("10.0.1")));
-    EXPECT_EQ("10.0.1", Str(component.GetTolvarVersion()));
-}
-
-TEST(QRMSoftwareComponentFields, SetPackageTypeStoresTheText)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetPackageType(VELString("LW64")));
-    EXPECT_EQ("LW64", Str(component.GetPackageType()));
-}
-
-TEST(QRMSoftwareComponentFields, SetXMLGenVersionStoresTheText)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetXMLGenVersion(VELString("2.5.0")));
-    EXPECT_EQ("2.5.0", Str(component.GetXMLGenVersion()));
-}
-
-TEST(QRMSoftwareComponentFields, SetPathStoresTheText)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetPath(VELString("FOLDER01/pkg.exe")));
-    EXPECT_EQ("FOLDER01/pkg.exe", Str(component.GetPath()));
-}
-
-TEST(QRMSoftwareComponentFields, SetPackageIDStoresTheText)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetPackageID(VELString("8H2KC")));
-    EXPECT_EQ("8H2KC", Str(component.GetPackageID()));
-}
-
 TEST(QRMSoftwareComponentFields, SetDateTimeStoresTheTime)
 {
     QRMSoftwareComponent component;
     EXPECT_EQ(QRM_KIT_SUCCESS, component.SetDateTime(VELTime(42ULL)));
     EXPECT_EQ(42ULL, component.GetDateTime().GetValue());
-}
-
-TEST(QRMSoftwareComponentFields, SetMD5HashStoresTheTextAsGiven)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetMD5Hash(VELString("D41D8cd98f00b204e9800998ecf8427e")));
-    EXPECT_EQ("D41D8cd98f00b204e9800998ecf8427e", Str(component.GetMD5Hash()));
-}
-
-TEST(QRMSoftwareComponentFields, SetMD5HashStoresAMalformedTextUnchecked)
-{
-    QRMSoftwareComponent component;
-    EXPECT_EQ(QRM_KIT_SUCCESS, component.SetMD5Hash(VELString("not a hash")));
-    EXPECT_EQ("not a hash", Str(component.GetMD5Hash()));
 }
 
 TEST(QRMSoftwareComponentFields, SetSizeStoresTheFullSixtyFourBitValue)
