@@ -1,9 +1,12 @@
 #include "VELXML.h"
 
 #include "base/VELXMLElement.h"
+#include "base/VELXMLWellFormed.h"
 
 #include <pugixml.hpp>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -87,12 +90,13 @@ VELXMLNode* VELXMLDocument::Wrap(const VELXMLNode& node)
 
 namespace {
 
+using qrm::detail::XmlBytes;
+using qrm::detail::XmlFault;
+
 // Reads a whole regular file into memory obtained from the XML parser's own
 // allocator, so that the parser can take the buffer over and parse in place.
-pugi::xml_parse_status ReadFile(const std::string& path, void*& contents, std::size_t& size)
+pugi::xml_parse_status ReadFile(const std::string& path, XmlBytes& bytes)
 {
-    contents = nullptr;
-    size = 0;
     if (path.empty() || path.find('\0') != std::string::npos) {
         return pugi::status_file_not_found;
     }
@@ -111,6 +115,7 @@ pugi::xml_parse_status ReadFile(const std::string& path, void*& contents, std::s
         ::close(fd);
         return pugi::status_out_of_memory;
     }
+    bytes.Reset(buffer, length);
     std::size_t done = 0;
     while (done < length) {
         ssize_t got = ::read(fd, static_cast<char*>(buffer) + done, length - done);
@@ -120,39 +125,75 @@ pugi::xml_parse_status ReadFile(const std::string& path, void*& contents, std::s
         done += static_cast<std::size_t>(got);
     }
     ::close(fd);
-    if (done != length) {
-        pugi::get_memory_deallocation_function()(buffer);
-        return pugi::status_io_error;
+    return done == length ? pugi::status_ok : pugi::status_io_error;
+}
+
+// Reads the file and decodes it into the UTF-8 text the parser reads, and
+// checks that text for what the parser does not check. On a document that
+// is not well-formed returns status_ok with `fault` set.
+pugi::xml_parse_status ReadText(const std::string& path, XmlBytes& bytes, XmlFault& fault)
+{
+    const pugi::xml_parse_status status = ReadFile(path, bytes);
+    if (status != pugi::status_ok) {
+        return status;
     }
-    contents = buffer;
-    size = length;
+    if (!qrm::detail::DecodeXmlText(bytes, fault)) {
+        return fault.what.empty() ? pugi::status_out_of_memory : pugi::status_ok;
+    }
+    qrm::detail::CheckXmlText(bytes.Data(), bytes.Size(), fault);
     return pugi::status_ok;
+}
+
+// The error code of a document that is not well-formed XML by a rule the
+// parser does not enforce itself (the parser's own codes are smaller).
+constexpr int kNotWellFormed = 100;
+
+void Refuse(int code, const std::string& text, int& errorCode, VELString& errorText)
+{
+    errorCode = code;
+    errorText = VELString::FromUTF8(text.data(), text.size());
 }
 
 }  // namespace
 
 VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELString& errorText)
 {
-    void* contents = nullptr;
-    std::size_t size = 0;
-    pugi::xml_parse_status status = ReadFile(file.GetPath().GetUTF8String(), contents, size);
+    const std::string path = file.GetPath().GetUTF8String();
+    XmlBytes bytes;
+    XmlFault fault;
+    const pugi::xml_parse_status status = ReadText(path, bytes, fault);
     if (status != pugi::status_ok) {
-        errorCode = static_cast<int>(status);
-        errorText = status == pugi::status_file_not_found  ? "file cannot be opened"
-                    : status == pugi::status_out_of_memory ? "out of memory"
-                                                           : "file cannot be read";
+        Refuse(static_cast<int>(status),
+               status == pugi::status_file_not_found  ? "file cannot be opened"
+               : status == pugi::status_out_of_memory ? "out of memory"
+                                                      : "file cannot be read",
+               errorCode, errorText);
         return nullptr;
     }
-    // The file's bytes are freed here until the parser has taken them over.
-    std::unique_ptr<void, pugi::deallocation_function> bytes(contents, pugi::get_memory_deallocation_function());
+    if (!fault.what.empty()) {
+        Refuse(kNotWellFormed, qrm::detail::DescribeXmlPosition(bytes.Data(), bytes.Size(), fault.offset, fault.what),
+               errorCode, errorText);
+        return nullptr;
+    }
     std::unique_ptr<VELXMLDocument> document(new VELXMLDocument);
+    const std::size_t size = bytes.Size();
     pugi::xml_parse_result result = document->mImpl->document.load_buffer_inplace_own(
-        bytes.release(), size, pugi::parse_default, pugi::encoding_auto);
+        bytes.Release(), size, pugi::parse_default, pugi::encoding_utf8);
     if (!result) {
-        errorCode = static_cast<int>(result.status);
-        std::string text =
-            std::string(result.description()) + " at offset " + std::to_string(static_cast<long long>(result.offset));
-        errorText = VELString::FromUTF8(text.data(), text.size());
+        // The parser changed the text in place: where it stopped is told on
+        // the text read afresh.
+        std::string what = result.description();
+        if (!what.empty() && what[0] >= 'A' && what[0] <= 'Z') {
+            what[0] = static_cast<char>(what[0] - 'A' + 'a');
+        }
+        const std::size_t offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, result.offset));
+        XmlBytes again;
+        XmlFault ignored;
+        const bool reread = ReadText(path, again, ignored) == pugi::status_ok;
+        Refuse(static_cast<int>(result.status),
+               reread ? qrm::detail::DescribeXmlPosition(again.Data(), again.Size(), offset, what)
+                      : "offset " + std::to_string(offset) + ": " + what,
+               errorCode, errorText);
         return nullptr;
     }
     return document.release();

@@ -1,0 +1,1147 @@
+#include "base/VELXMLWellFormed.h"
+
+#include <pugixml.hpp>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+#include <vector>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+namespace qrm::detail {
+
+namespace {
+
+// ---------------------------------------------------------------------------
+// Characters and names
+
+bool IsXmlChar(std::uint32_t c)
+{
+    return c == 0x9 || c == 0xA || c == 0xD || (c >= 0x20 && c <= 0xD7FF) || (c >= 0xE000 && c <= 0xFFFD) ||
+           (c >= 0x10000 && c <= 0x10FFFF);
+}
+
+bool IsBlank(unsigned char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+
+bool IsNameStartChar(std::uint32_t c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' || (c >= 0xC0 && c <= 0xD6) ||
+           (c >= 0xD8 && c <= 0xF6) || (c >= 0xF8 && c <= 0x2FF) || (c >= 0x370 && c <= 0x37D) ||
+           (c >= 0x37F && c <= 0x1FFF) || (c >= 0x200C && c <= 0x200D) || (c >= 0x2070 && c <= 0x218F) ||
+           (c >= 0x2C00 && c <= 0x2FEF) || (c >= 0x3001 && c <= 0xD7FF) || (c >= 0xF900 && c <= 0xFDCF) ||
+           (c >= 0xFDF0 && c <= 0xFFFD) || (c >= 0x10000 && c <= 0xEFFFF);
+}
+
+bool IsNameChar(std::uint32_t c)
+{
+    return IsNameStartChar(c) || c == '-' || c == '.' || (c >= '0' && c <= '9') || c == 0xB7 ||
+           (c >= 0x300 && c <= 0x36F) || (c >= 0x203F && c <= 0x2040);
+}
+
+// Decodes the UTF-8 sequence at `p` (at most `left` bytes). Returns its
+// length and the code point, or 0 when the bytes are no valid sequence
+// (truncated, overlong, a surrogate, beyond U+10FFFF).
+std::size_t DecodeUtf8(const unsigned char* p, std::size_t left, std::uint32_t& c)
+{
+    const unsigned char b = p[0];
+    if (b < 0x80) {
+        c = b;
+        return 1;
+    }
+    std::size_t length = 0;
+    std::uint32_t min = 0;
+    if (b >= 0xC2 && b <= 0xDF) {
+        length = 2;
+        c = b & 0x1Fu;
+        min = 0x80;
+    } else if (b >= 0xE0 && b <= 0xEF) {
+        length = 3;
+        c = b & 0x0Fu;
+        min = 0x800;
+    } else if (b >= 0xF0 && b <= 0xF4) {
+        length = 4;
+        c = b & 0x07u;
+        min = 0x10000;
+    } else {
+        return 0;
+    }
+    if (left < length) {
+        return 0;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((p[i] & 0xC0u) != 0x80u) {
+            return 0;
+        }
+        c = (c << 6) | (p[i] & 0x3Fu);
+    }
+    if (c < min || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+        return 0;
+    }
+    return length;
+}
+
+void AppendUtf8(std::uint32_t c, char*& out)
+{
+    if (c < 0x80) {
+        *out++ = static_cast<char>(c);
+    } else if (c < 0x800) {
+        *out++ = static_cast<char>(0xC0 | (c >> 6));
+        *out++ = static_cast<char>(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        *out++ = static_cast<char>(0xE0 | (c >> 12));
+        *out++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        *out++ = static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        *out++ = static_cast<char>(0xF0 | (c >> 18));
+        *out++ = static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+        *out++ = static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        *out++ = static_cast<char>(0x80 | (c & 0x3F));
+    }
+}
+
+bool EqualsIgnoringCase(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        const char x = (a[i] >= 'a' && a[i] <= 'z') ? static_cast<char>(a[i] - 'a' + 'A') : a[i];
+        const char y = (b[i] >= 'a' && b[i] <= 'z') ? static_cast<char>(b[i] - 'a' + 'A') : b[i];
+        if (x != y) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool IsOneOf(std::string_view name, std::initializer_list<std::string_view> names)
+{
+    return std::any_of(names.begin(), names.end(), [&](std::string_view n) { return EqualsIgnoringCase(name, n); });
+}
+
+// ---------------------------------------------------------------------------
+// The XML declaration
+
+enum class Encoding { Utf8, Utf16LE, Utf16BE };
+
+struct Declaration {
+    bool present = false;
+    std::string_view encoding;  // empty when the declaration names none
+    std::size_t encodingOffset = 0;
+    std::size_t end = 0;  // just after "?>"
+};
+
+// A cursor over the text of the declaration; every step fails at the end.
+class DeclarationReader {
+public:
+    DeclarationReader(const char* text, std::size_t size, std::size_t at) : mText(text), mSize(size), mAt(at) {}
+
+    std::size_t At() const { return mAt; }
+    unsigned char Peek() const { return mAt < mSize ? static_cast<unsigned char>(mText[mAt]) : 0; }
+    bool SkipBlanks()
+    {
+        const std::size_t from = mAt;
+        while (mAt < mSize && IsBlank(static_cast<unsigned char>(mText[mAt]))) {
+            ++mAt;
+        }
+        return mAt > from;
+    }
+    bool Take(std::string_view word)
+    {
+        if (mSize - mAt < word.size() || std::memcmp(mText + mAt, word.data(), word.size()) != 0) {
+            return false;
+        }
+        mAt += word.size();
+        return true;
+    }
+    // Eq, then a quoted value whose characters all satisfy `allowed`.
+    template <class Allowed>
+    bool Value(std::string_view& value, Allowed allowed)
+    {
+        SkipBlanks();
+        if (!Take("=")) {
+            return false;
+        }
+        SkipBlanks();
+        const unsigned char quote = Peek();
+        if (quote != '"' && quote != '\'') {
+            return false;
+        }
+        const std::size_t start = ++mAt;
+        while (mAt < mSize && static_cast<unsigned char>(mText[mAt]) != quote) {
+            if (!allowed(static_cast<unsigned char>(mText[mAt]), mAt - start)) {
+                return false;
+            }
+            ++mAt;
+        }
+        if (mAt >= mSize) {
+            return false;
+        }
+        value = std::string_view(mText + start, mAt - start);
+        ++mAt;
+        return true;
+    }
+
+private:
+    const char* mText;
+    std::size_t mSize;
+    std::size_t mAt;
+};
+
+bool IsDigit(unsigned char c) { return c >= '0' && c <= '9'; }
+bool IsLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// Reads the XML declaration when the text (after any byte-order mark, at
+// `at`) starts with one. The text is ASCII-compatible here (UTF-8 or
+// ISO-8859-1 bytes, or UTF-16 already converted).
+bool ReadDeclaration(const char* text, std::size_t size, std::size_t at, Declaration& declaration, XmlFault& fault)
+{
+    if (size - at < 6 || std::memcmp(text + at, "<?xml", 5) != 0 ||
+        !IsBlank(static_cast<unsigned char>(text[at + 5]))) {
+        return true;
+    }
+    declaration.present = true;
+    DeclarationReader reader(text, size, at + 5);
+    auto fail = [&](const char* what) {
+        fault.what = what;
+        fault.offset = reader.At();
+        return false;
+    };
+    reader.SkipBlanks();
+    std::string_view version;
+    if (!reader.Take("version")) {
+        return fail("the XML declaration does not start with its version");
+    }
+    const bool versionRead = reader.Value(version, [](unsigned char c, std::size_t i) {
+        return i == 0 ? c == '1' : i == 1 ? c == '.' : IsDigit(c);
+    });
+    if (!versionRead || version.size() < 3) {
+        return fail("the XML declaration's version is not 1.0 (or 1.x)");
+    }
+    bool blank = reader.SkipBlanks();
+    if (blank && reader.Take("encoding")) {
+        declaration.encodingOffset = reader.At();
+        if (!reader.Value(declaration.encoding, [](unsigned char c, std::size_t i) {
+                return i == 0 ? IsLetter(c) : IsLetter(c) || IsDigit(c) || c == '.' || c == '_' || c == '-';
+            }) ||
+            declaration.encoding.empty()) {
+            return fail("the XML declaration names no valid encoding");
+        }
+        blank = reader.SkipBlanks();
+    }
+    if (blank && reader.Take("standalone")) {
+        std::string_view standalone;
+        if (!reader.Value(standalone, [](unsigned char c, std::size_t) { return IsLetter(c); }) ||
+            (standalone != "yes" && standalone != "no")) {
+            return fail("the XML declaration's standalone is neither \"yes\" nor \"no\"");
+        }
+        reader.SkipBlanks();
+    }
+    if (!reader.Take("?>")) {
+        return fail("the XML declaration is malformed (version, encoding, standalone, in that order)");
+    }
+    declaration.end = reader.At();
+    return true;
+}
+
+// ---------------------------------------------------------------------------
+// Decoding
+
+void* Allocate(std::size_t size) { return pugi::get_memory_allocation_function()(size > 0 ? size : 1); }
+
+// UTF-16 to UTF-8, refusing unpaired surrogates and a dangling byte.
+bool ConvertUtf16(XmlBytes& bytes, Encoding encoding, std::size_t skip, XmlFault& fault)
+{
+    const unsigned char* in = reinterpret_cast<const unsigned char*>(bytes.Data());
+    const std::size_t units = (bytes.Size() - skip) / 2;
+    // Each code unit gives at most three bytes (a pair gives four).
+    char* out = static_cast<char*>(Allocate(units * 3));
+    if (out == nullptr) {
+        return false;
+    }
+    char* at = out;
+    const bool little = encoding == Encoding::Utf16LE;
+    auto unit = [&](std::size_t i) -> std::uint32_t {
+        const unsigned char* p = in + skip + 2 * i;
+        return little ? static_cast<std::uint32_t>(p[0] | (p[1] << 8)) : static_cast<std::uint32_t>((p[0] << 8) | p[1]);
+    };
+    for (std::size_t i = 0; i < units; ++i) {
+        std::uint32_t c = unit(i);
+        if (c >= 0xD800 && c <= 0xDBFF && i + 1 < units && unit(i + 1) >= 0xDC00 && unit(i + 1) <= 0xDFFF) {
+            c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 1) - 0xDC00);
+            ++i;
+        } else if (c >= 0xD800 && c <= 0xDFFF) {
+            fault.what = "a UTF-16 surrogate without its pair";
+            fault.offset = static_cast<std::size_t>(at - out);
+            pugi::get_memory_deallocation_function()(out);
+            return false;
+        }
+        AppendUtf8(c, at);
+    }
+    // A dangling byte after the last code unit is no character: it is left
+    // out, as conforming parsers do.
+    const std::size_t size = static_cast<std::size_t>(at - out);
+    bytes.Reset(out, size);
+    return true;
+}
+
+bool ConvertLatin1(XmlBytes& bytes)
+{
+    const unsigned char* in = reinterpret_cast<const unsigned char*>(bytes.Data());
+    std::size_t size = bytes.Size();
+    for (std::size_t i = 0; i < bytes.Size(); ++i) {
+        size += in[i] >= 0x80 ? 1 : 0;
+    }
+    if (size == bytes.Size()) {
+        return true;
+    }
+    char* out = static_cast<char*>(Allocate(size));
+    if (out == nullptr) {
+        return false;
+    }
+    char* at = out;
+    for (std::size_t i = 0; i < bytes.Size(); ++i) {
+        AppendUtf8(in[i], at);
+    }
+    bytes.Reset(out, size);
+    return true;
+}
+
+bool StartsWith(const unsigned char* p, std::size_t size, std::initializer_list<unsigned char> prefix)
+{
+    return size >= prefix.size() && std::equal(prefix.begin(), prefix.end(), p);
+}
+
+// ---------------------------------------------------------------------------
+// The checks on decoded text
+
+// A bit per byte of `p[0..31]` that is one of < > " ' & ].
+#if defined(__SSE2__)
+std::uint32_t MarkupBits(const char* p)
+{
+    const __m128i lt = _mm_set1_epi8('<');
+    const __m128i gt = _mm_set1_epi8('>');
+    const __m128i dq = _mm_set1_epi8('"');
+    const __m128i sq = _mm_set1_epi8('\'');
+    const __m128i amp = _mm_set1_epi8('&');
+    const __m128i bracket = _mm_set1_epi8(']');
+    auto half = [&](const char* q) {
+        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(q));
+        const __m128i a = _mm_or_si128(_mm_cmpeq_epi8(v, lt), _mm_cmpeq_epi8(v, gt));
+        const __m128i b = _mm_or_si128(_mm_cmpeq_epi8(v, dq), _mm_cmpeq_epi8(v, sq));
+        const __m128i c = _mm_or_si128(_mm_cmpeq_epi8(v, amp), _mm_cmpeq_epi8(v, bracket));
+        return static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(a, b), c)));
+    };
+    return half(p) | (half(p + 16) << 16);
+}
+
+// Whether `p[0..15]` holds only ASCII characters XML allows.
+bool PlainAscii(const char* p)
+{
+    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    // Signed: bytes of 0x80 and above are negative, so below 0x20 too.
+    const __m128i low = _mm_cmplt_epi8(v, _mm_set1_epi8(0x20));
+    const __m128i blank = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(v, _mm_set1_epi8('\t')),
+                                                    _mm_cmpeq_epi8(v, _mm_set1_epi8('\n'))),
+                                       _mm_cmpeq_epi8(v, _mm_set1_epi8('\r')));
+    return _mm_movemask_epi8(_mm_andnot_si128(blank, low)) == 0;
+}
+#else
+std::uint32_t MarkupBits(const char* p)
+{
+    std::uint32_t bits = 0;
+    for (int i = 0; i < 32; ++i) {
+        const char c = p[i];
+        if (c == '<' || c == '>' || c == '"' || c == '\'' || c == '&' || c == ']') {
+            bits |= 1u << i;
+        }
+    }
+    return bits;
+}
+
+bool PlainAscii(const char* p)
+{
+    for (int i = 0; i < 16; ++i) {
+        const unsigned char c = static_cast<unsigned char>(p[i]);
+        if (c >= 0x80 || (c < 0x20 && !IsBlank(c))) {
+            return false;
+        }
+    }
+    return true;
+}
+#endif
+
+class Checker {
+public:
+    Checker(const char* text, std::size_t size, XmlFault& fault)
+        : mText(text), mBytes(reinterpret_cast<const unsigned char*>(text)), mSize(size), mFault(fault)
+    {
+    }
+
+    bool Run()
+    {
+        std::size_t start = 0;
+        if (mSize >= 3 && mBytes[0] == 0xEF && mBytes[1] == 0xBB && mBytes[2] == 0xBF) {
+            start = 3;
+        }
+        if (!CheckCharacters(start)) {
+            return false;
+        }
+        // The declaration was read while decoding; it is skipped here.
+        Declaration declaration;
+        XmlFault ignored;
+        if (ReadDeclaration(mText, mSize, start, declaration, ignored) && declaration.present) {
+            start = declaration.end;
+        }
+        std::size_t at = start;
+        if (!DocumentLevel(at)) {
+            return false;
+        }
+        if (!WalkMarkup(at)) {
+            return false;
+        }
+        if (!mRootSeen) {
+            return Fail(mSize, "no root element");
+        }
+        if (mDepth != 0 || mState != State::Text) {
+            return Fail(mSize, "the document ends before its root element does");
+        }
+        return true;
+    }
+
+private:
+    enum class State { Text, StartTag, EndTag, DoubleQuoted, SingleQuoted, CData };
+
+    bool Fail(std::size_t at, const char* what)
+    {
+        mFault.what = what;
+        mFault.offset = at;
+        return false;
+    }
+
+    unsigned char At(std::size_t i) const { return i < mSize ? mBytes[i] : 0; }
+
+    bool Follows(std::size_t at, std::string_view word) const
+    {
+        return mSize - std::min(at, mSize) >= word.size() && std::memcmp(mText + at, word.data(), word.size()) == 0;
+    }
+
+    std::size_t Find(std::size_t from, std::string_view word) const
+    {
+        if (from >= mSize) {
+            return mSize;
+        }
+        const std::size_t found = std::string_view(mText, mSize).find(word, from);
+        return found == std::string_view::npos ? mSize : found;
+    }
+
+    // Every character is one XML allows and every byte is valid UTF-8 (and
+    // ASCII when the text came from US-ASCII: the decoding step sees to it).
+    bool CheckCharacters(std::size_t at)
+    {
+        while (at < mSize) {
+            if (mSize - at >= 16 && PlainAscii(mText + at)) {
+                at += 16;
+                continue;
+            }
+            const std::size_t end = std::min(mSize, at + 16);
+            while (at < end) {
+                std::uint32_t c = 0;
+                const std::size_t length = DecodeUtf8(mBytes + at, mSize - at, c);
+                if (length == 0) {
+                    return Fail(at, "bytes that are not UTF-8");
+                }
+                if (!IsXmlChar(c)) {
+                    return Fail(at, "a character XML does not allow");
+                }
+                mNonAscii = mNonAscii || length > 1;
+                at += length;
+            }
+        }
+        return true;
+    }
+
+    // Scans a name at `at`: returns its end, which is `at` itself when no
+    // name starts there.
+    std::size_t NameEnd(std::size_t at) const
+    {
+        std::size_t i = at;
+        while (i < mSize) {
+            std::uint32_t c = 0;
+            const std::size_t length = DecodeUtf8(mBytes + i, mSize - i, c);
+            if (length == 0 || !(i == at ? IsNameStartChar(c) : IsNameChar(c))) {
+                break;
+            }
+            i += length;
+        }
+        return i;
+    }
+
+    // Outside the root element: blanks, comments, processing instructions
+    // and one document type declaration before the root.
+    bool DocumentLevel(std::size_t& at)
+    {
+        for (;;) {
+            while (at < mSize && IsBlank(mBytes[at])) {
+                ++at;
+            }
+            if (at >= mSize) {
+                return true;
+            }
+            if (mBytes[at] != '<') {
+                return Fail(at, mRootSeen ? "text after the root element" : "text before the root element");
+            }
+            if (Follows(at, "<!--")) {
+                if (!Comment(at)) {
+                    return false;
+                }
+            } else if (Follows(at, "<?")) {
+                if (!ProcessingInstruction(at)) {
+                    return false;
+                }
+            } else if (Follows(at, "<!DOCTYPE")) {
+                if (mRootSeen) {
+                    return Fail(at, "a document type declaration after the root element");
+                }
+                if (mDoctypeSeen) {
+                    return Fail(at, "a second document type declaration");
+                }
+                mDoctypeSeen = true;
+                if (!DocumentType(at)) {
+                    return false;
+                }
+            } else if (Follows(at, "<![CDATA[")) {
+                return Fail(at, mRootSeen ? "text after the root element" : "text before the root element");
+            } else if (mRootSeen) {
+                return Fail(at, "a second root element");
+            } else {
+                return true;  // the root element starts here
+            }
+        }
+    }
+
+    // A comment at `at` ("<!--"): no "--" inside, "-->" at the end. Moves
+    // `at` past it.
+    bool Comment(std::size_t& at)
+    {
+        const std::size_t dashes = Find(at + 4, "--");
+        if (dashes >= mSize) {
+            return Fail(at, "a comment that does not end");
+        }
+        if (At(dashes + 2) != '>') {
+            return Fail(dashes, "\"--\" inside a comment");
+        }
+        at = dashes + 3;
+        return true;
+    }
+
+    // A processing instruction at `at` ("<?"): a target name other than
+    // "xml" in any case, a blank before any content. Moves `at` past it.
+    bool ProcessingInstruction(std::size_t& at)
+    {
+        const std::size_t target = at + 2;
+        const std::size_t end = NameEnd(target);
+        if (end == target) {
+            return Fail(target, "a processing instruction without a target name");
+        }
+        if (EqualsIgnoringCase(std::string_view(mText + target, end - target), "xml")) {
+            return Fail(at, "an XML declaration that is not at the start of the document");
+        }
+        if (!Follows(end, "?>") && !IsBlank(At(end))) {
+            return Fail(end, "a processing instruction's target is not followed by a blank");
+        }
+        const std::size_t close = Find(end, "?>");
+        if (close >= mSize) {
+            return Fail(at, "a processing instruction that does not end");
+        }
+        at = close + 2;
+        return true;
+    }
+
+    // A quoted literal at `at`; moves `at` past its closing quote.
+    bool Literal(std::size_t& at)
+    {
+        const unsigned char quote = At(at);
+        if (quote != '"' && quote != '\'') {
+            return Fail(at, "a quoted literal expected in the document type declaration");
+        }
+        const void* close = std::memchr(mText + at + 1, quote, mSize - at - 1);
+        if (close == nullptr) {
+            return Fail(at, "a literal that does not end");
+        }
+        at = static_cast<std::size_t>(static_cast<const char*>(close) - mText) + 1;
+        return true;
+    }
+
+    bool Blanks(std::size_t& at)
+    {
+        const std::size_t from = at;
+        while (at < mSize && IsBlank(mBytes[at])) {
+            ++at;
+        }
+        return at > from;
+    }
+
+    // SYSTEM literal | PUBLIC literal literal, with the blanks between.
+    bool ExternalId(std::size_t& at, bool systemOptional)
+    {
+        if (Follows(at, "SYSTEM")) {
+            at += 6;
+            return (Blanks(at) || Fail(at, "a blank expected after SYSTEM")) && Literal(at);
+        }
+        if (Follows(at, "PUBLIC")) {
+            at += 6;
+            if (!Blanks(at) && !Fail(at, "a blank expected after PUBLIC")) {
+                return false;
+            }
+            const std::size_t start = at + 1;
+            if (!Literal(at)) {
+                return false;
+            }
+            for (std::size_t i = start; i + 1 < at; ++i) {
+                const unsigned char c = mBytes[i];
+                if (!(IsLetter(c) || IsDigit(c) || c == ' ' || c == '\r' || c == '\n' ||
+                      std::strchr("-'()+,./:=?;!*#@$_%", c) != nullptr)) {
+                    return Fail(i, "a character a public identifier may not hold");
+                }
+            }
+            const std::size_t before = at;
+            const bool blank = Blanks(at);
+            if (At(at) == '"' || At(at) == '\'') {
+                return (blank || Fail(at, "a blank expected between the public and system identifiers")) &&
+                       Literal(at);
+            }
+            at = before;
+            return systemOptional || Fail(at, "a system identifier expected after the public identifier");
+        }
+        return Fail(at, "SYSTEM or PUBLIC expected");
+    }
+
+    // A markup declaration of the internal subset at `at` ("<!" and a
+    // keyword): its keyword, a blank, a name, then anything up to the '>'
+    // outside quoted literals. Entity declarations are read in full.
+    bool MarkupDeclaration(std::size_t& at)
+    {
+        std::size_t i = at + 2;
+        const bool entity = Follows(i, "ENTITY");
+        if (entity) {
+            i += 6;
+        } else if (Follows(i, "ELEMENT") || Follows(i, "NOTATION")) {
+            i += Follows(i, "ELEMENT") ? 7 : 8;
+        } else if (Follows(i, "ATTLIST")) {
+            i += 7;
+        } else {
+            return Fail(at, "an unknown declaration in the document type declaration");
+        }
+        if (!Blanks(i)) {
+            return Fail(i, "a blank expected in a declaration");
+        }
+        if (entity && At(i) == '%') {
+            ++i;
+            if (!Blanks(i)) {
+                return Fail(i, "a blank expected after '%' in an entity declaration");
+            }
+        }
+        const std::size_t name = i;
+        i = NameEnd(i);
+        if (i == name) {
+            return Fail(i, "a name expected in a declaration");
+        }
+        if (entity) {
+            if (!Blanks(i)) {
+                return Fail(i, "a blank expected after the entity's name");
+            }
+            if (At(i) == '"' || At(i) == '\'') {
+                if (!Literal(i)) {
+                    return false;
+                }
+            } else if (!ExternalId(i, false)) {
+                return false;
+            } else {
+                const std::size_t before = i;
+                if (Blanks(i) && Follows(i, "NDATA")) {
+                    i += 5;
+                    const std::size_t notation = i;
+                    if (!Blanks(i) || NameEnd(i) == i) {
+                        return Fail(notation, "a notation name expected after NDATA");
+                    }
+                    i = NameEnd(i);
+                } else {
+                    i = before;
+                }
+            }
+            Blanks(i);
+            if (At(i) != '>') {
+                return Fail(i, "'>' expected at the end of an entity declaration");
+            }
+            at = i + 1;
+            return true;
+        }
+        while (i < mSize && mBytes[i] != '>') {
+            if (mBytes[i] == '"' || mBytes[i] == '\'') {
+                if (!Literal(i)) {
+                    return false;
+                }
+            } else if (mBytes[i] == '<') {
+                return Fail(i, "'<' inside a declaration");
+            } else {
+                ++i;
+            }
+        }
+        if (i >= mSize) {
+            return Fail(at, "a declaration that does not end");
+        }
+        at = i + 1;
+        return true;
+    }
+
+    // A document type declaration at `at` ("<!DOCTYPE"): a name, an
+    // optional external identifier, an optional internal subset of
+    // declarations, comments and processing instructions. Moves `at` past
+    // it.
+    bool DocumentType(std::size_t& at)
+    {
+        std::size_t i = at + 9;
+        if (!Blanks(i)) {
+            return Fail(i, "a blank expected after DOCTYPE");
+        }
+        const std::size_t name = i;
+        i = NameEnd(i);
+        if (i == name) {
+            return Fail(i, "a name expected in the document type declaration");
+        }
+        std::size_t before = i;
+        if (Blanks(i) && (Follows(i, "SYSTEM") || Follows(i, "PUBLIC"))) {
+            if (!ExternalId(i, false)) {
+                return false;
+            }
+            before = i;
+        }
+        i = before;
+        Blanks(i);
+        if (At(i) == '[') {
+            ++i;
+            for (;;) {
+                Blanks(i);
+                if (i >= mSize) {
+                    return Fail(at, "a document type declaration that does not end");
+                }
+                if (mBytes[i] == ']') {
+                    ++i;
+                    break;
+                }
+                if (Follows(i, "<!--")) {
+                    if (!Comment(i)) {
+                        return false;
+                    }
+                } else if (Follows(i, "<?")) {
+                    if (!ProcessingInstruction(i)) {
+                        return false;
+                    }
+                } else if (Follows(i, "<!")) {
+                    if (!MarkupDeclaration(i)) {
+                        return false;
+                    }
+                } else if (mBytes[i] == '%') {
+                    return Fail(i, "a parameter-entity reference (entities a document declares are never expanded)");
+                } else {
+                    return Fail(i, "something other than a declaration in the internal subset");
+                }
+            }
+            Blanks(i);
+        }
+        if (At(i) != '>') {
+            return Fail(i, "'>' expected at the end of the document type declaration");
+        }
+        at = i + 1;
+        return true;
+    }
+
+    // A reference at `at` ('&'): a character reference to a character XML
+    // allows, or one of the five predefined entities. Moves `at` past it.
+    bool Reference(std::size_t& at)
+    {
+        std::size_t i = at + 1;
+        if (At(i) == '#') {
+            ++i;
+            const bool hex = At(i) == 'x';
+            i += hex ? 1 : 0;
+            std::uint32_t value = 0;
+            const std::size_t digits = i;
+            for (;; ++i) {
+                const unsigned char c = At(i);
+                std::uint32_t digit = 0;
+                if (IsDigit(c)) {
+                    digit = c - '0';
+                } else if (hex && c >= 'a' && c <= 'f') {
+                    digit = c - 'a' + 10;
+                } else if (hex && c >= 'A' && c <= 'F') {
+                    digit = c - 'A' + 10;
+                } else {
+                    break;
+                }
+                value = std::min<std::uint32_t>(value * (hex ? 16 : 10) + digit, 0x110000);
+            }
+            if (i == digits || At(i) != ';') {
+                return Fail(at, "a malformed character reference");
+            }
+            if (!IsXmlChar(value)) {
+                return Fail(at, "a character reference to a character XML does not allow");
+            }
+            at = i + 1;
+            return true;
+        }
+        const std::size_t end = NameEnd(i);
+        if (end == i || At(end) != ';') {
+            return Fail(at, "an '&' that starts no reference");
+        }
+        const std::string_view name(mText + i, end - i);
+        if (name != "lt" && name != "gt" && name != "amp" && name != "apos" && name != "quot") {
+            return Fail(at, "a reference to an entity other than lt, gt, amp, apos and quot "
+                            "(entities a document declares are never expanded)");
+        }
+        at = end + 1;
+        return true;
+    }
+
+    // The start tag that ends at `close` ('>'): no attribute twice, and
+    // valid names when the text is not all ASCII.
+    bool CheckAttributes(std::size_t close)
+    {
+        if (mNonAscii) {
+            const std::size_t end = NameEnd(mTagStart + 1);
+            if (end == mTagStart + 1 ||
+                !(IsBlank(At(end)) || At(end) == '/' || At(end) == '>' || end == close)) {
+                return Fail(mTagStart + 1, "an element name with a character XML does not allow in names");
+            }
+        }
+        if (mQuotes.size() < 2 && !mNonAscii) {
+            return true;
+        }
+        mNames.clear();
+        for (std::size_t quote : mQuotes) {
+            // Back from the opening quote: blanks, '=', blanks, the name.
+            std::size_t i = quote;
+            while (i > mTagStart && IsBlank(mBytes[i - 1])) {
+                --i;
+            }
+            if (i > mTagStart && mBytes[i - 1] == '=') {
+                --i;
+            }
+            while (i > mTagStart && IsBlank(mBytes[i - 1])) {
+                --i;
+            }
+            const std::size_t end = i;
+            while (i > mTagStart && !IsBlank(mBytes[i - 1]) && mBytes[i - 1] != '"' && mBytes[i - 1] != '\'') {
+                --i;
+            }
+            if (mNonAscii && NameEnd(i) != end) {
+                return Fail(i, "an attribute name with a character XML does not allow in names");
+            }
+            mNames.emplace_back(mText + i, end - i);
+        }
+        if (mNames.size() <= 8) {
+            for (std::size_t a = 1; a < mNames.size(); ++a) {
+                for (std::size_t b = 0; b < a; ++b) {
+                    if (mNames[a] == mNames[b]) {
+                        return Fail(static_cast<std::size_t>(mNames[a].data() - mText), "an attribute given twice");
+                    }
+                }
+            }
+            return true;
+        }
+        std::vector<std::string_view> sorted(mNames);
+        std::sort(sorted.begin(), sorted.end());
+        const auto twice = std::adjacent_find(sorted.begin(), sorted.end());
+        if (twice != sorted.end()) {
+            return Fail(static_cast<std::size_t>(twice->data() - mText), "an attribute given twice");
+        }
+        return true;
+    }
+
+    // One markup byte at `at` in the current state; `next` is where the
+    // walk goes on (just after `at` unless this moves it).
+    bool OnMarkup(std::size_t at, std::size_t& next)
+    {
+        const unsigned char c = mBytes[at];
+        switch (mState) {
+        case State::Text:
+            if (c == '<') {
+                return OnOpen(at, next);
+            }
+            if (c == '&') {
+                next = at;
+                return Reference(next);
+            }
+            if (c == ']' && At(at + 1) == ']' && At(at + 2) == '>') {
+                return Fail(at, "\"]]>\" in text");
+            }
+            return true;
+        case State::StartTag:
+            if (c == '"' || c == '\'') {
+                mQuotes.push_back(at);
+                mState = c == '"' ? State::DoubleQuoted : State::SingleQuoted;
+                return true;
+            }
+            if (c == '>') {
+                if (!CheckAttributes(at)) {
+                    return false;
+                }
+                mState = State::Text;
+                if (At(at - 1) != '/') {
+                    ++mDepth;
+                    return true;
+                }
+                return mDepth > 0 || AfterRoot(next);
+            }
+            return Fail(at, "a character a tag may not hold outside its attribute values");
+        case State::EndTag:
+            if (c == '>') {
+                mState = State::Text;
+                if (mDepth == 0) {
+                    return Fail(at, "an end tag without its start tag");
+                }
+                --mDepth;
+                return mDepth > 0 || AfterRoot(next);
+            }
+            return Fail(at, "a character an end tag may not hold");
+        case State::DoubleQuoted:
+        case State::SingleQuoted:
+            if (c == '<') {
+                return Fail(at, "'<' in an attribute value");
+            }
+            if (c == '&') {
+                next = at;
+                return Reference(next);
+            }
+            if ((c == '"' && mState == State::DoubleQuoted) || (c == '\'' && mState == State::SingleQuoted)) {
+                mState = State::StartTag;
+            }
+            return true;
+        case State::CData:
+            if (c == ']' && At(at + 1) == ']' && At(at + 2) == '>') {
+                mState = State::Text;
+                next = at + 3;
+            }
+            return true;
+        }
+        return true;
+    }
+
+    // After the root element ends, at `next`: only what may follow it, to
+    // the end of the text.
+    bool AfterRoot(std::size_t& next) { return DocumentLevel(next); }
+
+    // A '<' in text.
+    bool OnOpen(std::size_t at, std::size_t& next)
+    {
+        const unsigned char c = At(at + 1);
+        if (c == '/') {
+            mState = State::EndTag;
+            return true;
+        }
+        if (c == '!') {
+            if (Follows(at, "<!--")) {
+                next = at;
+                return Comment(next);
+            }
+            if (Follows(at, "<![CDATA[")) {
+                mState = State::CData;
+                next = at + 9;
+                return true;
+            }
+            if (Follows(at, "<!DOCTYPE")) {
+                return Fail(at, "a document type declaration inside the root element");
+            }
+            return Fail(at, "\"<!\" that starts neither a comment nor a CDATA section");
+        }
+        if (c == '?') {
+            next = at;
+            return ProcessingInstruction(next);
+        }
+        mRootSeen = true;
+        mState = State::StartTag;
+        mTagStart = at;
+        mQuotes.clear();
+        return true;
+    }
+
+    // From `at`, the root element's start tag, to the end: only the bytes
+    // that start or end markup are visited.
+    bool WalkMarkup(std::size_t at)
+    {
+        if (at >= mSize) {
+            return true;
+        }
+        // The root's start tag ('<' and its name) begins here.
+        std::size_t next = at + 1;
+        if (!OnOpen(at, next)) {
+            return false;
+        }
+        at = next;
+        char tail[32];
+        while (at < mSize) {
+            std::uint32_t bits = 0;
+            const std::size_t block = at;
+            if (mSize - at >= 32) {
+                bits = MarkupBits(mText + at);
+            } else {
+                std::memset(tail, 0, sizeof tail);
+                std::memcpy(tail, mText + at, mSize - at);
+                bits = MarkupBits(tail);
+            }
+            std::size_t resume = block + 32;
+            while (bits != 0) {
+                const std::size_t found = block + static_cast<std::size_t>(__builtin_ctz(bits));
+                std::size_t after = found + 1;
+                if (!OnMarkup(found, after)) {
+                    return false;
+                }
+                if (after >= block + 32) {
+                    resume = after;
+                    break;
+                }
+                bits &= ~((1u << (after - block)) - 1u);
+            }
+            at = resume;
+        }
+        return true;
+    }
+
+    const char* mText;
+    const unsigned char* mBytes;
+    std::size_t mSize;
+    XmlFault& mFault;
+    State mState = State::Text;
+    std::size_t mDepth = 0;
+    bool mRootSeen = false;
+    bool mDoctypeSeen = false;
+    bool mNonAscii = false;
+    std::size_t mTagStart = 0;
+    std::vector<std::size_t> mQuotes;
+    std::vector<std::string_view> mNames;
+};
+
+}  // namespace
+
+XmlBytes::~XmlBytes() { Reset(nullptr, 0); }
+
+void XmlBytes::Reset(void* data, std::size_t size)
+{
+    if (mData != nullptr && data != mData) {
+        pugi::get_memory_deallocation_function()(mData);
+    }
+    mData = data;
+    mSize = size;
+}
+
+void* XmlBytes::Release()
+{
+    void* data = mData;
+    mData = nullptr;
+    mSize = 0;
+    return data;
+}
+
+bool DecodeXmlText(XmlBytes& bytes, XmlFault& fault)
+{
+    const unsigned char* p = reinterpret_cast<const unsigned char*>(bytes.Data());
+    const std::size_t size = bytes.Size();
+    if (StartsWith(p, size, {0x00, 0x00, 0xFE, 0xFF}) || StartsWith(p, size, {0xFF, 0xFE, 0x00, 0x00}) ||
+        StartsWith(p, size, {0x00, 0x00, 0x00, 0x3C}) || StartsWith(p, size, {0x3C, 0x00, 0x00, 0x00})) {
+        fault.what = "a document in UTF-32, which this library does not read";
+        return false;
+    }
+    if (StartsWith(p, size, {0x4C, 0x6F, 0xA7, 0x94})) {
+        fault.what = "a document in EBCDIC, which this library does not read";
+        return false;
+    }
+    Encoding encoding = Encoding::Utf8;
+    std::size_t bom = 0;
+    if (StartsWith(p, size, {0xEF, 0xBB, 0xBF})) {
+        bom = 3;
+    } else if (StartsWith(p, size, {0xFF, 0xFE})) {
+        encoding = Encoding::Utf16LE;
+        bom = 2;
+    } else if (StartsWith(p, size, {0xFE, 0xFF})) {
+        encoding = Encoding::Utf16BE;
+        bom = 2;
+    } else if (StartsWith(p, size, {0x3C, 0x00, 0x3F, 0x00})) {
+        encoding = Encoding::Utf16LE;
+    } else if (StartsWith(p, size, {0x00, 0x3C, 0x00, 0x3F})) {
+        encoding = Encoding::Utf16BE;
+    }
+    if (encoding != Encoding::Utf8 && !ConvertUtf16(bytes, encoding, bom, fault)) {
+        return false;
+    }
+    const char* text = bytes.Data();
+    const std::size_t start = encoding == Encoding::Utf8 ? bom : 0;
+    Declaration declaration;
+    if (!ReadDeclaration(text, bytes.Size(), start, declaration, fault)) {
+        return false;
+    }
+    const std::string_view named = declaration.encoding;
+    if (named.empty()) {
+        return true;
+    }
+    auto refuse = [&](const std::string& what) {
+        fault.what = what;
+        fault.offset = declaration.encodingOffset;
+        return false;
+    };
+    if (encoding != Encoding::Utf8) {
+        const bool little = encoding == Encoding::Utf16LE;
+        if (IsOneOf(named, {"UTF-16", "UTF16"}) || EqualsIgnoringCase(named, little ? "UTF-16LE" : "UTF-16BE")) {
+            return true;
+        }
+        return refuse("the document is in UTF-16 but its declaration names " + std::string(named));
+    }
+    if (IsOneOf(named, {"UTF-8", "UTF8"})) {
+        return true;
+    }
+    if (bom == 0 && IsOneOf(named, {"US-ASCII", "ASCII"})) {
+        const auto nonAscii = std::find_if(p, p + size, [](unsigned char c) { return c >= 0x80; });
+        if (nonAscii != p + size) {
+            fault.what = "a byte outside ASCII in a document declared US-ASCII";
+            fault.offset = static_cast<std::size_t>(nonAscii - p);
+            return false;
+        }
+        return true;
+    }
+    if (bom == 0 && IsOneOf(named, {"ISO-8859-1", "ISO_8859-1", "ISO8859-1", "LATIN1", "ISO-LATIN-1", "L1"})) {
+        return ConvertLatin1(bytes);
+    }
+    if (IsOneOf(named, {"UTF-16", "UTF16", "UTF-16LE", "UTF-16BE"})) {
+        return refuse("the document is in UTF-8 but its declaration names " + std::string(named));
+    }
+    return refuse("the document's declared encoding " + std::string(named) +
+                  " is not one this library reads (UTF-8, UTF-16, ISO-8859-1, US-ASCII)");
+}
+
+bool CheckXmlText(const char* text, std::size_t size, XmlFault& fault)
+{
+    return Checker(text, size, fault).Run();
+}
+
+std::string DescribeXmlPosition(const char* text, std::size_t size, std::size_t offset, const std::string& what)
+{
+    offset = std::min(offset, size);
+    std::size_t line = 1;
+    std::size_t column = 1;
+    for (std::size_t i = 0; i < offset; ++i) {
+        const unsigned char c = static_cast<unsigned char>(text[i]);
+        if (c == '\n') {
+            ++line;
+            column = 1;
+        } else if ((c & 0xC0U) != 0x80U) {
+            ++column;
+        }
+    }
+    return "line " + std::to_string(line) + ", column " + std::to_string(column) + ": " + what;
+}
+
+}  // namespace qrm::detail
