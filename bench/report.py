@@ -20,7 +20,8 @@ def main_report(path):
     floor = m["XMLParserLoadAndWalk"][0]
     parse = m["Parse"][0]
     print("%-24s %12s %14s" % ("benchmark", "median ms", "ratio"))
-    for name in ["XMLParserLoadAndWalk", "Parse", "ParseInventory", "ApplicableUpdates", "CategoryQueries"]:
+    for name in ["XMLParserLoadAndWalk", "Parse", "WellFormednessCheck", "ParseInventory", "ApplicableUpdates",
+                 "CategoryQueries"]:
         if name not in m:
             continue
         time = m[name][0]
@@ -31,6 +32,9 @@ def main_report(path):
         else:
             ratio = "%.2f %% Parse" % (100.0 * time / parse)
         print("%-24s %12.2f %14s" % (name, time, ratio))
+    if "WellFormednessCheck" in m:
+        check = m["WellFormednessCheck"][0]
+        print("Parse with the checks / Parse without them: %.3f x" % (parse / (parse - check)))
 
 
 def memory_report(path):

@@ -225,9 +225,11 @@ bool ReadDeclaration(const char* text, std::size_t size, std::size_t at, Declara
     bool blank = reader.SkipBlanks();
     if (blank && reader.Take("encoding")) {
         declaration.encodingOffset = reader.At();
-        if (!reader.Value(declaration.encoding, [](unsigned char c, std::size_t i) {
-                return i == 0 ? IsLetter(c) : IsLetter(c) || IsDigit(c) || c == '.' || c == '_' || c == '-';
-            }) ||
+        if (!reader.Value(declaration.encoding,
+                          [](unsigned char c, std::size_t i) {
+                              return i == 0 ? IsLetter(c)
+                                            : IsLetter(c) || IsDigit(c) || c == '.' || c == '_' || c == '-';
+                          }) ||
             declaration.encoding.empty()) {
             return fail("the XML declaration names no valid encoding");
         }
@@ -319,24 +321,40 @@ bool StartsWith(const unsigned char* p, std::size_t size, std::initializer_list<
 // ---------------------------------------------------------------------------
 // The checks on decoded text
 
-// A bit per byte of `p[0..31]` that is one of < > " ' & ].
+// The bytes the walk over markup stops at, each a bit of a set of stops.
+enum Stop : unsigned { kLt = 1, kGt = 2, kDq = 4, kSq = 8, kAmp = 16, kBracket = 32 };
+
+// The stop each byte is, 0 for the others.
+struct StopTable {
+    unsigned char stop[256] = {};
+    constexpr StopTable() : stop()
+    {
+        stop[static_cast<unsigned char>('<')] = kLt;
+        stop[static_cast<unsigned char>('>')] = kGt;
+        stop[static_cast<unsigned char>('"')] = kDq;
+        stop[static_cast<unsigned char>('\'')] = kSq;
+        stop[static_cast<unsigned char>('&')] = kAmp;
+        stop[static_cast<unsigned char>(']')] = kBracket;
+    }
+};
+constexpr StopTable kStops;
+
+unsigned StopOf(unsigned char c) { return kStops.stop[c]; }
+
 #if defined(__SSE2__)
-std::uint32_t MarkupBits(const char* p)
+// A bit per byte of `p[0..63]` that is one of the stops.
+std::uint64_t StopBits(const char* p)
 {
-    const __m128i lt = _mm_set1_epi8('<');
-    const __m128i gt = _mm_set1_epi8('>');
-    const __m128i dq = _mm_set1_epi8('"');
-    const __m128i sq = _mm_set1_epi8('\'');
-    const __m128i amp = _mm_set1_epi8('&');
-    const __m128i bracket = _mm_set1_epi8(']');
-    auto half = [&](const char* q) {
-        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(q));
-        const __m128i a = _mm_or_si128(_mm_cmpeq_epi8(v, lt), _mm_cmpeq_epi8(v, gt));
-        const __m128i b = _mm_or_si128(_mm_cmpeq_epi8(v, dq), _mm_cmpeq_epi8(v, sq));
-        const __m128i c = _mm_or_si128(_mm_cmpeq_epi8(v, amp), _mm_cmpeq_epi8(v, bracket));
-        return static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(a, b), c)));
-    };
-    return half(p) | (half(p + 16) << 16);
+    std::uint64_t bits = 0;
+    for (int part = 0; part < 4; ++part) {
+        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p + 16 * part));
+        const __m128i a = _mm_or_si128(_mm_cmpeq_epi8(v, _mm_set1_epi8('<')), _mm_cmpeq_epi8(v, _mm_set1_epi8('>')));
+        const __m128i b = _mm_or_si128(_mm_cmpeq_epi8(v, _mm_set1_epi8('"')), _mm_cmpeq_epi8(v, _mm_set1_epi8('\'')));
+        const __m128i c = _mm_or_si128(_mm_cmpeq_epi8(v, _mm_set1_epi8('&')), _mm_cmpeq_epi8(v, _mm_set1_epi8(']')));
+        const unsigned mask = static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(_mm_or_si128(a, b), c)));
+        bits |= static_cast<std::uint64_t>(mask) << (16 * part);
+    }
+    return bits;
 }
 
 // Whether `p[0..15]` holds only ASCII characters XML allows.
@@ -345,20 +363,17 @@ bool PlainAscii(const char* p)
     const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
     // Signed: bytes of 0x80 and above are negative, so below 0x20 too.
     const __m128i low = _mm_cmplt_epi8(v, _mm_set1_epi8(0x20));
-    const __m128i blank = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(v, _mm_set1_epi8('\t')),
-                                                    _mm_cmpeq_epi8(v, _mm_set1_epi8('\n'))),
-                                       _mm_cmpeq_epi8(v, _mm_set1_epi8('\r')));
+    const __m128i blank =
+        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(v, _mm_set1_epi8('\t')), _mm_cmpeq_epi8(v, _mm_set1_epi8('\n'))),
+                     _mm_cmpeq_epi8(v, _mm_set1_epi8('\r')));
     return _mm_movemask_epi8(_mm_andnot_si128(blank, low)) == 0;
 }
 #else
-std::uint32_t MarkupBits(const char* p)
+std::uint64_t StopBits(const char* p)
 {
-    std::uint32_t bits = 0;
-    for (int i = 0; i < 32; ++i) {
-        const char c = p[i];
-        if (c == '<' || c == '>' || c == '"' || c == '\'' || c == '&' || c == ']') {
-            bits |= 1u << i;
-        }
+    std::uint64_t bits = 0;
+    for (int i = 0; i < 64; ++i) {
+        bits |= StopOf(static_cast<unsigned char>(p[i])) != 0 ? std::uint64_t(1) << i : 0;
     }
     return bits;
 }
@@ -379,8 +394,7 @@ class Checker {
 public:
     Checker(const char* text, std::size_t size, XmlFault& fault)
         : mText(text), mBytes(reinterpret_cast<const unsigned char*>(text)), mSize(size), mFault(fault)
-    {
-    }
+    {}
 
     bool Run()
     {
@@ -401,21 +415,13 @@ public:
         if (!DocumentLevel(at)) {
             return false;
         }
-        if (!WalkMarkup(at)) {
-            return false;
-        }
-        if (!mRootSeen) {
+        if (at >= mSize) {
             return Fail(mSize, "no root element");
         }
-        if (mDepth != 0 || mState != State::Text) {
-            return Fail(mSize, "the document ends before its root element does");
-        }
-        return true;
+        return WalkMarkup(at);
     }
 
 private:
-    enum class State { Text, StartTag, EndTag, DoubleQuoted, SingleQuoted, CData };
-
     bool Fail(std::size_t at, const char* what)
     {
         mFault.what = what;
@@ -612,8 +618,7 @@ private:
             const std::size_t before = at;
             const bool blank = Blanks(at);
             if (At(at) == '"' || At(at) == '\'') {
-                return (blank || Fail(at, "a blank expected between the public and system identifiers")) &&
-                       Literal(at);
+                return (blank || Fail(at, "a blank expected between the public and system identifiers")) && Literal(at);
             }
             at = before;
             return systemOptional || Fail(at, "a system identifier expected after the public identifier");
@@ -808,220 +813,247 @@ private:
         return true;
     }
 
-    // The start tag that ends at `close` ('>'): no attribute twice, and
-    // valid names when the text is not all ASCII.
-    bool CheckAttributes(std::size_t close)
+    // The stops of the 64 bytes from `from` (the text's end reads as no
+    // stop).
+    std::uint64_t StopsAt(std::size_t from) const
     {
+        if (mSize - from >= 64) {
+            return StopBits(mText + from);
+        }
+        char tail[64] = {};
+        std::memcpy(tail, mText + from, mSize - from);
+        return StopBits(tail);
+    }
+
+    // A start tag's character that is neither in a value nor allowed there.
+    bool BadInTag(std::size_t at) { return Fail(at, "a character a tag may not hold outside its attribute values"); }
+
+    // The name of attribute `k` of the start tag at `start`, from where
+    // the values open and end (mQuotes holds both): back from the value's
+    // opening quote over blanks, '=' and blanks to where the name ends, and
+    // forward from the end of the value before over blanks, or back to a
+    // blank for the first attribute.
+    std::string_view AttributeName(std::size_t start, std::size_t k) const
+    {
+        std::size_t end = mQuotes[2 * k];
+        while (end > start && IsBlank(mBytes[end - 1])) {
+            --end;
+        }
+        if (end > start && mBytes[end - 1] == '=') {
+            --end;
+        }
+        while (end > start && IsBlank(mBytes[end - 1])) {
+            --end;
+        }
+        std::size_t begin = end;
+        if (k == 0) {
+            while (begin > start && !IsBlank(mBytes[begin - 1])) {
+                --begin;
+            }
+        } else {
+            begin = std::min(end, mQuotes[2 * k - 1]);
+            while (begin < end && IsBlank(mBytes[begin])) {
+                ++begin;
+            }
+        }
+        return std::string_view(mText + begin, end - begin);
+    }
+
+    // The start tag from `start` ('<') to `close` ('>'): no attribute
+    // twice, and names XML allows when the text is not all ASCII (the
+    // parser checks ASCII names itself).
+    bool CheckAttributes(std::size_t start, std::size_t close)
+    {
+        const std::size_t count = mQuotes.size() / 2;
         if (mNonAscii) {
-            const std::size_t end = NameEnd(mTagStart + 1);
-            if (end == mTagStart + 1 ||
-                !(IsBlank(At(end)) || At(end) == '/' || At(end) == '>' || end == close)) {
-                return Fail(mTagStart + 1, "an element name with a character XML does not allow in names");
+            const std::size_t end = NameEnd(start + 1);
+            if (end == start + 1 || !(IsBlank(At(end)) || At(end) == '/' || end == close)) {
+                return Fail(start + 1, "an element name with a character XML does not allow in names");
             }
-        }
-        if (mQuotes.size() < 2 && !mNonAscii) {
-            return true;
-        }
-        mNames.clear();
-        for (std::size_t quote : mQuotes) {
-            // Back from the opening quote: blanks, '=', blanks, the name.
-            std::size_t i = quote;
-            while (i > mTagStart && IsBlank(mBytes[i - 1])) {
-                --i;
-            }
-            if (i > mTagStart && mBytes[i - 1] == '=') {
-                --i;
-            }
-            while (i > mTagStart && IsBlank(mBytes[i - 1])) {
-                --i;
-            }
-            const std::size_t end = i;
-            while (i > mTagStart && !IsBlank(mBytes[i - 1]) && mBytes[i - 1] != '"' && mBytes[i - 1] != '\'') {
-                --i;
-            }
-            if (mNonAscii && NameEnd(i) != end) {
-                return Fail(i, "an attribute name with a character XML does not allow in names");
-            }
-            mNames.emplace_back(mText + i, end - i);
-        }
-        if (mNames.size() <= 8) {
-            for (std::size_t a = 1; a < mNames.size(); ++a) {
-                for (std::size_t b = 0; b < a; ++b) {
-                    if (mNames[a] == mNames[b]) {
-                        return Fail(static_cast<std::size_t>(mNames[a].data() - mText), "an attribute given twice");
-                    }
+            for (std::size_t k = 0; k < count; ++k) {
+                const std::string_view name = AttributeName(start, k);
+                const std::size_t at = static_cast<std::size_t>(name.data() - mText);
+                if (NameEnd(at) != at + name.size()) {
+                    return Fail(at, "an attribute name with a character XML does not allow in names");
                 }
             }
+        }
+        if (count < 2) {
             return true;
         }
-        std::vector<std::string_view> sorted(mNames);
-        std::sort(sorted.begin(), sorted.end());
-        const auto twice = std::adjacent_find(sorted.begin(), sorted.end());
-        if (twice != sorted.end()) {
+        // Few attributes: each name against a 64-bit set of hashes, compared
+        // in full only when its hash was seen. Many: sorted.
+        mNames.clear();
+        if (count <= 64) {
+            std::uint64_t seen = 0;
+            for (std::size_t k = 0; k < count; ++k) {
+                const std::string_view name = AttributeName(start, k);
+                const unsigned hash =
+                    name.empty()
+                        ? 0
+                        : static_cast<unsigned>(
+                              name.size() * 31 + static_cast<unsigned char>(name[name.size() / 2]) * 7 +
+                              static_cast<unsigned char>(name.back()) * 3 + static_cast<unsigned char>(name.front()));
+                const std::uint64_t bit = std::uint64_t(1) << (hash % 61);
+                if ((seen & bit) != 0 && std::find(mNames.begin(), mNames.end(), name) != mNames.end()) {
+                    return Fail(static_cast<std::size_t>(name.data() - mText), "an attribute given twice");
+                }
+                seen |= bit;
+                mNames.push_back(name);
+            }
+            return true;
+        }
+        for (std::size_t k = 0; k < count; ++k) {
+            mNames.push_back(AttributeName(start, k));
+        }
+        std::sort(mNames.begin(), mNames.end());
+        const auto twice = std::adjacent_find(mNames.begin(), mNames.end());
+        if (twice != mNames.end()) {
             return Fail(static_cast<std::size_t>(twice->data() - mText), "an attribute given twice");
         }
         return true;
     }
 
-    // One markup byte at `at` in the current state; `next` is where the
-    // walk goes on (just after `at` unless this moves it).
-    bool OnMarkup(std::size_t at, std::size_t& next)
-    {
-        const unsigned char c = mBytes[at];
-        switch (mState) {
-        case State::Text:
-            if (c == '<') {
-                return OnOpen(at, next);
-            }
-            if (c == '&') {
-                next = at;
-                return Reference(next);
-            }
-            if (c == ']' && At(at + 1) == ']' && At(at + 2) == '>') {
-                return Fail(at, "\"]]>\" in text");
-            }
-            return true;
-        case State::StartTag:
-            if (c == '"' || c == '\'') {
-                mQuotes.push_back(at);
-                mState = c == '"' ? State::DoubleQuoted : State::SingleQuoted;
-                return true;
-            }
-            if (c == '>') {
-                if (!CheckAttributes(at)) {
-                    return false;
-                }
-                mState = State::Text;
-                if (At(at - 1) != '/') {
-                    ++mDepth;
-                    return true;
-                }
-                return mDepth > 0 || AfterRoot(next);
-            }
-            return Fail(at, "a character a tag may not hold outside its attribute values");
-        case State::EndTag:
-            if (c == '>') {
-                mState = State::Text;
-                if (mDepth == 0) {
-                    return Fail(at, "an end tag without its start tag");
-                }
-                --mDepth;
-                return mDepth > 0 || AfterRoot(next);
-            }
-            return Fail(at, "a character an end tag may not hold");
-        case State::DoubleQuoted:
-        case State::SingleQuoted:
-            if (c == '<') {
-                return Fail(at, "'<' in an attribute value");
-            }
-            if (c == '&') {
-                next = at;
-                return Reference(next);
-            }
-            if ((c == '"' && mState == State::DoubleQuoted) || (c == '\'' && mState == State::SingleQuoted)) {
-                mState = State::StartTag;
-            }
-            return true;
-        case State::CData:
-            if (c == ']' && At(at + 1) == ']' && At(at + 2) == '>') {
-                mState = State::Text;
-                next = at + 3;
-            }
-            return true;
-        }
-        return true;
-    }
-
-    // After the root element ends, at `next`: only what may follow it, to
-    // the end of the text.
-    bool AfterRoot(std::size_t& next) { return DocumentLevel(next); }
-
-    // A '<' in text.
-    bool OnOpen(std::size_t at, std::size_t& next)
-    {
-        const unsigned char c = At(at + 1);
-        if (c == '/') {
-            mState = State::EndTag;
-            return true;
-        }
-        if (c == '!') {
-            if (Follows(at, "<!--")) {
-                next = at;
-                return Comment(next);
-            }
-            if (Follows(at, "<![CDATA[")) {
-                mState = State::CData;
-                next = at + 9;
-                return true;
-            }
-            if (Follows(at, "<!DOCTYPE")) {
-                return Fail(at, "a document type declaration inside the root element");
-            }
-            return Fail(at, "\"<!\" that starts neither a comment nor a CDATA section");
-        }
-        if (c == '?') {
-            next = at;
-            return ProcessingInstruction(next);
-        }
-        mRootSeen = true;
-        mState = State::StartTag;
-        mTagStart = at;
-        mQuotes.clear();
-        return true;
-    }
-
-    // From `at`, the root element's start tag, to the end: only the bytes
-    // that start or end markup are visited.
+    // From the root element's '<' at `at` to the end of the text. Only the
+    // bytes that start or end markup are visited ('<', '>', quotes, '&',
+    // ']'), found 64 bytes at a time; the state of that search stays in
+    // local variables, as this loop is most of the checks' time.
     bool WalkMarkup(std::size_t at)
     {
-        if (at >= mSize) {
-            return true;
-        }
-        // The root's start tag ('<' and its name) begins here.
-        std::size_t next = at + 1;
-        if (!OnOpen(at, next)) {
-            return false;
-        }
-        at = next;
-        char tail[32];
-        while (at < mSize) {
-            std::uint32_t bits = 0;
-            const std::size_t block = at;
-            if (mSize - at >= 32) {
-                bits = MarkupBits(mText + at);
-            } else {
-                std::memset(tail, 0, sizeof tail);
-                std::memcpy(tail, mText + at, mSize - at);
-                bits = MarkupBits(tail);
+        mRootSeen = true;
+        std::size_t depth = 0;
+        std::size_t window = static_cast<std::size_t>(-1) - 64;
+        std::uint64_t stops = 0;
+        // The next byte at or after `from` that is one of the stops in
+        // `set`, or the end of the text.
+        auto next = [&](unsigned set, std::size_t from) {
+            for (;;) {
+                if (from >= mSize) {
+                    return mSize;
+                }
+                if (from - window >= 64) {  // also when `from` is before the window
+                    window = from;
+                    stops = StopsAt(from);
+                }
+                for (std::uint64_t bits = stops >> (from - window); bits != 0; bits &= bits - 1) {
+                    const std::size_t found = from + static_cast<std::size_t>(__builtin_ctzll(bits));
+                    if ((StopOf(mBytes[found]) & set) != 0) {
+                        return found;
+                    }
+                }
+                from = window + 64;
             }
-            std::size_t resume = block + 32;
-            while (bits != 0) {
-                const std::size_t found = block + static_cast<std::size_t>(__builtin_ctz(bits));
-                std::size_t after = found + 1;
-                if (!OnMarkup(found, after)) {
+        };
+        for (;;) {
+            // At a '<' inside the root element or at its start.
+            const unsigned char second = At(at + 1);
+            if (second == '/') {
+                const std::size_t close = next(kGt | kLt | kAmp | kDq | kSq, at + 2);
+                if (close >= mSize || mBytes[close] != '>') {
+                    return Fail(at, "a malformed end tag");
+                }
+                if (depth == 0) {
+                    return Fail(at, "an end tag without its start tag");
+                }
+                at = close + 1;
+                if (--depth == 0) {
+                    return DocumentLevel(at);
+                }
+            } else if (second == '!') {
+                if (Follows(at, "<!--")) {
+                    if (!Comment(at)) {
+                        return false;
+                    }
+                } else if (Follows(at, "<![CDATA[") && depth > 0) {
+                    std::size_t end = next(kBracket, at + 9);
+                    while (end < mSize && !Follows(end, "]]>")) {
+                        end = next(kBracket, end + 1);
+                    }
+                    if (end >= mSize) {
+                        return Fail(at, "a CDATA section that does not end");
+                    }
+                    at = end + 3;
+                } else {
+                    return Fail(at, "\"<!\" that starts neither a comment nor a CDATA section inside the root element");
+                }
+            } else if (second == '?') {
+                if (!ProcessingInstruction(at)) {
                     return false;
                 }
-                if (after >= block + 32) {
-                    resume = after;
-                    break;
+            } else {
+                // A start tag: its attribute values, up to the '>' outside
+                // them.
+                const std::size_t start = at;
+                mQuotes.clear();
+                std::size_t i = next(kDq | kSq | kGt | kLt | kAmp, at + 1);
+                while (i < mSize && mBytes[i] != '>') {
+                    const unsigned char quote = mBytes[i];
+                    if (quote != '"' && quote != '\'') {
+                        return BadInTag(i);
+                    }
+                    mQuotes.push_back(i);
+                    const unsigned set = (quote == '"' ? kDq : kSq) | kLt | kAmp;
+                    std::size_t end = next(set, i + 1);
+                    while (end < mSize && mBytes[end] != quote) {
+                        if (mBytes[end] == '<') {
+                            return Fail(end, "'<' in an attribute value");
+                        }
+                        if (!Reference(end)) {
+                            return false;
+                        }
+                        end = next(set, end);
+                    }
+                    if (end >= mSize) {
+                        return Fail(i, "an attribute value that does not end");
+                    }
+                    mQuotes.push_back(end + 1);
+                    i = next(kDq | kSq | kGt | kLt | kAmp, end + 1);
                 }
-                bits &= ~((1u << (after - block)) - 1u);
+                if (i >= mSize) {
+                    return Fail(start, "a start tag that does not end");
+                }
+                if ((mQuotes.size() >= 4 || mNonAscii) && !CheckAttributes(start, i)) {
+                    return false;
+                }
+                at = i + 1;
+                if (mBytes[i - 1] != '/') {
+                    ++depth;
+                } else if (depth == 0) {
+                    return DocumentLevel(at);
+                }
             }
-            at = resume;
+            if (depth == 0) {
+                return Fail(at, "a malformed root element");
+            }
+            // Text up to the next '<': references well-formed, no "]]>".
+            std::size_t i = next(kLt | kAmp | kBracket, at);
+            while (i < mSize && mBytes[i] != '<') {
+                if (mBytes[i] == '&') {
+                    if (!Reference(i)) {
+                        return false;
+                    }
+                } else if (Follows(i, "]]>")) {
+                    return Fail(i, "\"]]>\" in text");
+                } else {
+                    ++i;
+                }
+                i = next(kLt | kAmp | kBracket, i);
+            }
+            if (i >= mSize) {
+                return Fail(mSize, "the document ends before its root element does");
+            }
+            at = i;
         }
-        return true;
     }
 
     const char* mText;
     const unsigned char* mBytes;
     std::size_t mSize;
     XmlFault& mFault;
-    State mState = State::Text;
-    std::size_t mDepth = 0;
     bool mRootSeen = false;
     bool mDoctypeSeen = false;
     bool mNonAscii = false;
-    std::size_t mTagStart = 0;
+    // Where each value of the current start tag opens and ends.
     std::vector<std::size_t> mQuotes;
     std::vector<std::string_view> mNames;
 };
@@ -1122,10 +1154,7 @@ bool DecodeXmlText(XmlBytes& bytes, XmlFault& fault)
                   " is not one this library reads (UTF-8, UTF-16, ISO-8859-1, US-ASCII)");
 }
 
-bool CheckXmlText(const char* text, std::size_t size, XmlFault& fault)
-{
-    return Checker(text, size, fault).Run();
-}
+bool CheckXmlText(const char* text, std::size_t size, XmlFault& fault) { return Checker(text, size, fault).Run(); }
 
 std::string DescribeXmlPosition(const char* text, std::size_t size, std::size_t offset, const std::string& what)
 {
