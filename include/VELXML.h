@@ -2,9 +2,11 @@
 // owns its nodes, and element nodes with name, text, attribute and child
 // queries.
 //
-// Documents may be UTF-8 or UTF-16 (little or big endian, with a byte-order
-// mark). A document type declaration is skipped: entities it defines are
-// never expanded and external entities are never read.
+// Documents must be well-formed XML (see VELDOMParser::Parse) in UTF-8 or
+// UTF-16 (little or big endian), or ISO-8859-1 or US-ASCII as declared. A
+// document type declaration is checked and skipped: entities it defines are
+// never expanded (a document that refers to one is refused) and external
+// entities are never read.
 #ifndef VEL_XML_H
 #define VEL_XML_H
 
@@ -83,7 +85,23 @@ public:
     // Reads and parses the file. On success returns a new document that the
     // caller owns and deletes, leaving `errorCode` as it was (callers set it
     // to 0 first). On failure sets `errorCode` to a non-zero value and
-    // `errorText` to a description, and returns null.
+    // `errorText` to a description, and returns null: 1, 2 and 3 when the
+    // file cannot be opened, cannot be read or does not fit in memory; any
+    // other value when its bytes are not well-formed XML, and `errorText`
+    // is then "line L, column C: what is wrong" (lines counted at line
+    // feeds, columns in characters, both from 1).
+    //
+    // Well-formed means XML 1.0: one root element and, outside it, only
+    // blanks, comments, processing instructions, an XML declaration at the
+    // very start and one document type declaration before the root; only
+    // characters XML allows; attributes once per element; references only
+    // to characters XML allows and to the five predefined entities (lt, gt,
+    // amp, apos, quot). A document that refers to an entity its document
+    // type declaration defines is refused, since such entities are never
+    // expanded. The document may be in UTF-8 or UTF-16 (with a byte-order
+    // mark, or starting with an XML declaration), or in ISO-8859-1 or
+    // US-ASCII when its declaration says so; a declaration that names
+    // another encoding, or one the bytes are not in, is refused.
     static VELXMLDocument* Parse(const VELFile& file, int& errorCode, VELString& errorText);
 };
 

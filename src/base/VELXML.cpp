@@ -148,10 +148,44 @@ pugi::xml_parse_status ReadText(const std::string& path, XmlBytes& bytes, XmlFau
 // parser does not enforce itself (the parser's own codes are smaller).
 constexpr int kNotWellFormed = 100;
 
+// Where the parser, reading a copy of the text, stops and why; false when it
+// reads the text to the end.
+bool ParserFault(const XmlBytes& text, XmlFault& fault, int& code)
+{
+    pugi::xml_document document;
+    const pugi::xml_parse_result result =
+        document.load_buffer(text.Data(), text.Size(), pugi::parse_default, pugi::encoding_utf8);
+    if (result) {
+        return false;
+    }
+    fault.what = result.description();
+    if (!fault.what.empty() && fault.what[0] >= 'A' && fault.what[0] <= 'Z') {
+        fault.what[0] = static_cast<char>(fault.what[0] - 'A' + 'a');
+    }
+    fault.offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, result.offset));
+    code = static_cast<int>(result.status);
+    return true;
+}
+
 void Refuse(int code, const std::string& text, int& errorCode, VELString& errorText)
 {
     errorCode = code;
     errorText = VELString::FromUTF8(text.data(), text.size());
+}
+
+// A document that is not XML: the first fault in it, the checks' or the
+// parser's, with its line and column.
+void RefuseText(const XmlBytes& text, XmlFault fault, int& errorCode, VELString& errorText)
+{
+    int code = kNotWellFormed;
+    XmlFault parser;
+    int parserCode = 0;
+    if (ParserFault(text, parser, parserCode) && (fault.what.empty() || parser.offset < fault.offset)) {
+        fault = parser;
+        code = parserCode;
+    }
+    Refuse(code, qrm::detail::DescribeXmlPosition(text.Data(), text.Size(), fault.offset, fault.what), errorCode,
+           errorText);
 }
 
 }  // namespace
@@ -171,8 +205,7 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
         return nullptr;
     }
     if (!fault.what.empty()) {
-        Refuse(kNotWellFormed, qrm::detail::DescribeXmlPosition(bytes.Data(), bytes.Size(), fault.offset, fault.what),
-               errorCode, errorText);
+        RefuseText(bytes, fault, errorCode, errorText);
         return nullptr;
     }
     std::unique_ptr<VELXMLDocument> document(new VELXMLDocument);
@@ -180,20 +213,16 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
     pugi::xml_parse_result result = document->mImpl->document.load_buffer_inplace_own(
         bytes.Release(), size, pugi::parse_default, pugi::encoding_utf8);
     if (!result) {
-        // The parser changed the text in place: where it stopped is told on
-        // the text read afresh.
-        std::string what = result.description();
-        if (!what.empty() && what[0] >= 'A' && what[0] <= 'Z') {
-            what[0] = static_cast<char>(what[0] - 'A' + 'a');
-        }
-        const std::size_t offset = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, result.offset));
+        // The parser changed the text in place: the text is read afresh to
+        // say where it stopped.
         XmlBytes again;
         XmlFault ignored;
-        const bool reread = ReadText(path, again, ignored) == pugi::status_ok;
-        Refuse(static_cast<int>(result.status),
-               reread ? qrm::detail::DescribeXmlPosition(again.Data(), again.Size(), offset, what)
-                      : "offset " + std::to_string(offset) + ": " + what,
-               errorCode, errorText);
+        if (ReadText(path, again, ignored) == pugi::status_ok) {
+            RefuseText(again, XmlFault(), errorCode, errorText);
+        }
+        if (errorCode == 0) {
+            Refuse(static_cast<int>(result.status), result.description(), errorCode, errorText);
+        }
         return nullptr;
     }
     return document.release();

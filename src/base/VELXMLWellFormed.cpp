@@ -224,7 +224,6 @@ bool ReadDeclaration(const char* text, std::size_t size, std::size_t at, Declara
     }
     bool blank = reader.SkipBlanks();
     if (blank && reader.Take("encoding")) {
-        declaration.encodingOffset = reader.At();
         if (!reader.Value(declaration.encoding,
                           [](unsigned char c, std::size_t i) {
                               return i == 0 ? IsLetter(c)
@@ -233,6 +232,7 @@ bool ReadDeclaration(const char* text, std::size_t size, std::size_t at, Declara
             declaration.encoding.empty()) {
             return fail("the XML declaration names no valid encoding");
         }
+        declaration.encodingOffset = static_cast<std::size_t>(declaration.encoding.data() - text);
         blank = reader.SkipBlanks();
     }
     if (blank && reader.Take("standalone")) {

@@ -2,6 +2,8 @@
 
 #include "Library.h"
 
+#include <VELXML.h>
+
 #include <archive.h>
 #include <archive_entry.h>
 #include <pugixml.hpp>
@@ -353,32 +355,18 @@ std::string RootElementName(const std::string& head)
 
 std::string XmlProblem(const std::string& libraryPath)
 {
-    std::ifstream in(libraryPath, std::ios::binary);
-    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    pugi::xml_document document;
-    const pugi::xml_parse_result result =
-        document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_auto);
-    if (result.status == pugi::status_ok || result.status == pugi::status_out_of_memory ||
-        result.status == pugi::status_io_error) {
+    // The XML layer's own decision and description, so that the tool never
+    // disagrees with the library on what is XML.
+    int code = 0;
+    VELString text;
+    std::unique_ptr<VELXMLDocument> document(VELDOMParser::Parse(VELFile(libraryPath), code, text));
+    if (code == 0 && document != nullptr) {
         return std::string();
     }
-    const std::size_t offset =
-        std::min(text.size(), result.offset < 0 ? std::size_t(0) : static_cast<std::size_t>(result.offset));
-    std::size_t line = 1;
-    std::size_t column = 1;
-    for (std::size_t i = 0; i < offset; ++i) {
-        if (text[i] == '\n') {
-            ++line;
-            column = 1;
-        } else if ((static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U) {
-            ++column;
-        }
+    if (code >= 1 && code <= 3) {  // not opened, not read, out of memory: no XML problem
+        return std::string();
     }
-    std::string what = result.description();
-    if (!what.empty()) {
-        what[0] = static_cast<char>(what[0] >= 'A' && what[0] <= 'Z' ? what[0] - 'A' + 'a' : what[0]);
-    }
-    return "line " + std::to_string(line) + ", column " + std::to_string(column) + ": " + what;
+    return text.GetUTF8String();
 }
 
 }  // namespace qrmtool
