@@ -402,9 +402,7 @@ public:
         if (mSize >= 3 && mBytes[0] == 0xEF && mBytes[1] == 0xBB && mBytes[2] == 0xBF) {
             start = 3;
         }
-        if (!CheckCharacters(start)) {
-            return false;
-        }
+        mChecked = start;
         // The declaration was read while decoding; it is skipped here.
         Declaration declaration;
         XmlFault ignored;
@@ -412,18 +410,21 @@ public:
             start = declaration.end;
         }
         std::size_t at = start;
-        if (!DocumentLevel(at)) {
-            return false;
-        }
-        if (at >= mSize) {
-            return Fail(mSize, "no root element");
-        }
-        return WalkMarkup(at);
+        const bool walked = DocumentLevel(at) && (at < mSize ? WalkMarkup(at) : Fail(mSize, "no root element"));
+        // The characters the walk did not load, up to its fault if it found
+        // one: an earlier fault among them is the one reported.
+        const bool characters = CheckCharacters(walked ? mSize : std::min(mSize, mFault.offset + 1));
+        return walked && characters;
     }
 
 private:
+    // Keeps the first fault in the text: checks in step may find a later
+    // one first.
     bool Fail(std::size_t at, const char* what)
     {
+        if (!mFault.what.empty() && (mHalted || mFault.offset <= at)) {
+            return false;
+        }
         mFault.what = what;
         mFault.offset = at;
         return false;
@@ -445,17 +446,20 @@ private:
         return found == std::string_view::npos ? mSize : found;
     }
 
-    // Every character is one XML allows and every byte is valid UTF-8 (and
-    // ASCII when the text came from US-ASCII: the decoding step sees to it).
-    bool CheckCharacters(std::size_t at)
+    // Every character up to `end` (and to the end of a sequence that
+    // starts before it) is one XML allows, and every byte is valid UTF-8.
+    // Checked in step with the walk over markup, as it loads the bytes, and
+    // the rest at the end.
+    bool CheckCharacters(std::size_t end)
     {
-        while (at < mSize) {
+        std::size_t at = mChecked;
+        while (at < end) {
             if (mSize - at >= 16 && PlainAscii(mText + at)) {
                 at += 16;
                 continue;
             }
-            const std::size_t end = std::min(mSize, at + 16);
-            while (at < end) {
+            const std::size_t block = std::min(mSize, at + 16);
+            while (at < block) {
                 std::uint32_t c = 0;
                 const std::size_t length = DecodeUtf8(mBytes + at, mSize - at, c);
                 if (length == 0) {
@@ -468,6 +472,7 @@ private:
                 at += length;
             }
         }
+        mChecked = std::max(mChecked, at);
         return true;
     }
 
@@ -825,6 +830,22 @@ private:
         return StopBits(tail);
     }
 
+    // Makes the 64 bytes from `from` the walk's window: checks their
+    // characters (and any skipped since the last window) and finds their
+    // stops. False when a character is at fault: the walk then stops, and
+    // its own fault after this one is its consequence. Kept out of line so
+    // that the search the walk makes at every stop stays small.
+    [[gnu::noinline]] bool Load(std::size_t from, std::size_t& window, std::uint64_t& stops)
+    {
+        if (!CheckCharacters(std::min(mSize, from + 64))) {
+            mHalted = true;
+            return false;
+        }
+        window = from;
+        stops = StopsAt(from);
+        return true;
+    }
+
     // A start tag's character that is neither in a value nor allowed there.
     bool BadInTag(std::size_t at) { return Fail(at, "a character a tag may not hold outside its attribute values"); }
 
@@ -931,9 +952,8 @@ private:
                 if (from >= mSize) {
                     return mSize;
                 }
-                if (from - window >= 64) {  // also when `from` is before the window
-                    window = from;
-                    stops = StopsAt(from);
+                if (from - window >= 64 && !Load(from, window, stops)) {  // also when `from` is before the window
+                    return mSize;
                 }
                 for (std::uint64_t bits = stops >> (from - window); bits != 0; bits &= bits - 1) {
                     const std::size_t found = from + static_cast<std::size_t>(__builtin_ctzll(bits));
@@ -1053,6 +1073,10 @@ private:
     bool mRootSeen = false;
     bool mDoctypeSeen = false;
     bool mNonAscii = false;
+    // A fault among the characters stops the walk over markup.
+    bool mHalted = false;
+    // The characters up to here are checked.
+    std::size_t mChecked = 0;
     // Where each value of the current start tag opens and ends.
     std::vector<std::size_t> mQuotes;
     std::vector<std::string_view> mNames;
