@@ -1,12 +1,15 @@
 // Files that are not what a caller promised: empty, not a regular file,
-// missing, binary, badly encoded, with NUL bytes, with entity references
-// that must never be expanded or fetched. Each read must give its exact
-// result, leave the stores in a state every query can answer from, and keep
-// the process's memory within a bound proportional to the input.
+// missing, binary, badly encoded, with NUL bytes, with content after the root
+// element, with entity references (each of which fails the document) and
+// entity declarations that must never be expanded or fetched. Each read must
+// give its exact result, leave the stores in a state every query can answer
+// from, and keep the process's memory within a bound proportional to the
+// input.
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -209,32 +212,146 @@ void ExpectTheSmallInventoryGetsItsUpdate()
     EXPECT_EQ(VELString("FOLDER01/BIOS/BIOS_S740_2.4.1.EXE"), updates.begin()->second->GetPath());
 }
 
-// Bytes that are not UTF-8: a stray continuation byte, a byte never used,
-// an overlong NUL, an encoded surrogate, a sequence cut short, a five-byte
-// form, and a code point above U+10FFFF.
-const std::string kInvalidUTF8 = "\x80"
-                                 "\xFF"
-                                 "\xC0\x80"
-                                 "\xED\xA0\x80"
-                                 "\xE2\x82"
-                                 "\xF8\x88\x80\x80\x80"
-                                 "\xF4\x90\x80\x80";
+// Byte sequences that are not UTF-8: a stray continuation byte, a byte never
+// used, an overlong NUL, an encoded surrogate, a sequence cut short, a
+// five-byte form, and a code point above U+10FFFF.
+const std::vector<std::string> kInvalidUTF8 = {
+    "\x80", "\xFF", "\xC0\x80", "\xED\xA0\x80", "\xE2\x82", "\xF8\x88\x80\x80\x80", "\xF4\x90\x80\x80",
+};
 
-// "a", then one or more U+FFFD, then "z": what a text made of "a", invalid
-// bytes and "z" must read as.
-::testing::AssertionResult IsAReplacedZ(const VELString& text)
+// "a", then e acute, the euro sign and a character beyond U+FFFF, then "z".
+const std::string kValidNonASCII = "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80z";
+
+// A document and what it holds, for the messages of a failing check.
+struct Labelled {
+    std::string label;
+    std::string xml;
+};
+
+struct CatalogField {
+    const char* name;
+    std::string CatalogTexts::*text;
+};
+
+// Every text of the small catalog that a file can set.
+const std::vector<CatalogField> kCatalogFields = {
+    {"baseLocation", &CatalogTexts::baseLocation},
+    {"releaseID", &CatalogTexts::releaseID},
+    {"version", &CatalogTexts::version},
+    {"bundleName", &CatalogTexts::bundleName},
+    {"componentName", &CatalogTexts::componentName},
+    {"categoryText", &CatalogTexts::categoryText},
+    {"vendorVersion", &CatalogTexts::vendorVersion},
+    {"componentPath", &CatalogTexts::componentPath},
+    {"collectorPath", &CatalogTexts::collectorPath},
+};
+
+// The field of the small catalog named `name`.
+const CatalogField& CatalogFieldNamed(const std::string& name)
 {
-    const std::u16string& units = text.GetUTF16String();
-    if (units.size() < 3 || units.front() != u'a' || units.back() != u'z') {
-        return ::testing::AssertionFailure() << "\"" << text.GetUTF8String() << "\" is not a...z";
-    }
-    for (std::size_t i = 1; i + 1 < units.size(); ++i) {
-        if (units[i] != u'\xFFFD') {
-            return ::testing::AssertionFailure()
-                   << "unit " << i << " of \"" << text.GetUTF8String() << "\" is " << static_cast<unsigned>(units[i]);
+    for (const CatalogField& field : kCatalogFields) {
+        if (name == field.name) {
+            return field;
         }
     }
-    return ::testing::AssertionSuccess();
+    ADD_FAILURE() << "no catalog field " << name;
+    return kCatalogFields.front();
+}
+
+// The small catalog with `doctype` and the field named `name` set to `text`.
+Labelled CatalogWith(const std::string& doctype, const std::string& name, const std::string& text)
+{
+    CatalogTexts texts;
+    texts.doctype = doctype;
+    texts.*CatalogFieldNamed(name).text = text;
+    return {name + "=" + text, Catalog(texts)};
+}
+
+struct InventoryField {
+    const char* name;
+    std::string InventoryTexts::*text;
+};
+
+// Every text of the small inventory that a file can set.
+const std::vector<InventoryField> kInventoryFields = {
+    {"lang", &InventoryTexts::lang},
+    {"schemaVersion", &InventoryTexts::schemaVersion},
+    {"osVendor", &InventoryTexts::osVendor},
+    {"osDisplay", &InventoryTexts::osDisplay},
+    {"systemDisplay", &InventoryTexts::systemDisplay},
+    {"deviceDisplay", &InventoryTexts::deviceDisplay},
+    {"applicationVersion", &InventoryTexts::applicationVersion},
+    {"applicationDisplay", &InventoryTexts::applicationDisplay},
+};
+
+// The field of the small inventory named `name`.
+const InventoryField& InventoryFieldNamed(const std::string& name)
+{
+    for (const InventoryField& field : kInventoryFields) {
+        if (name == field.name) {
+            return field;
+        }
+    }
+    ADD_FAILURE() << "no inventory field " << name;
+    return kInventoryFields.front();
+}
+
+// The small inventory with `doctype` and the field named `name` set to
+// `text`.
+Labelled InventoryWith(const std::string& doctype, const std::string& name, const std::string& text)
+{
+    InventoryTexts texts;
+    texts.doctype = doctype;
+    texts.*InventoryFieldNamed(name).text = text;
+    return {name + "=" + text, Inventory(texts)};
+}
+
+// Reads each document after the example catalog: each read fails and leaves
+// no catalog behind. Returns the size of the largest document.
+std::size_t ExpectEachCatalogFailsAndEmptiesTheStore(const TempDir& dir, const std::vector<Labelled>& documents)
+{
+    std::size_t largest = 0;
+    for (const Labelled& document : documents) {
+        SCOPED_TRACE(document.label.substr(0, 200));
+        largest = std::max(largest, document.xml.size());
+        EXPECT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->Parse(VELFile(dir.Write("hostile.xml", document.xml))));
+        ExpectNoCatalog();
+    }
+    return largest;
+}
+
+// Reads each document, first into the empty inventory store and then after
+// the example inventory: each read fails and stores nothing, so the store
+// stays empty and then holds the example inventory alone, as it was (the
+// inventory store is never emptied). Returns the size of the largest
+// document.
+std::size_t ExpectEachInventoryFailsAndStoresNothing(const TempDir& dir, const std::vector<Labelled>& documents)
+{
+    std::size_t largest = 0;
+    for (const Labelled& document : documents) {
+        SCOPED_TRACE(document.label.substr(0, 200));
+        largest = std::max(largest, document.xml.size());
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(dir.Write("hostile.xml", document.xml))));
+        ExpectNoInventory();
+    }
+    EXPECT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(kExampleInventory)));
+    const std::size_t devices = StoredDevices().size();
+    const std::string example = EveryStoredText();
+    for (const Labelled& document : documents) {
+        SCOPED_TRACE(document.label.substr(0, 200));
+        EXPECT_EQ(QRM_KIT_FAILURE, API()->ParseInventory(VELFile(dir.Write("hostile.xml", document.xml))));
+        EXPECT_TRUE(API()->IsInventoryParsed());
+        EXPECT_EQ(devices, StoredDevices().size());
+        EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
+        EXPECT_EQ(example, EveryStoredText());
+    }
+    // The example inventory still gets the example catalog's ten updates.
+    EXPECT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(kExampleCatalog)));
+    std::map<QRMIApplication*, QRMSoftwareComponent*> updates;
+    EXPECT_EQ(QRM_KIT_SUCCESS, API()->GetApplicableUpdates(updates, QRM_OS_ARCH_X64, QRM_BUNDLE_BTW64));
+    EXPECT_EQ(10u, updates.size());
+    return largest;
 }
 
 // Deterministic bytes of every value, "<" and NUL included.
@@ -256,28 +373,32 @@ std::string WithByte(std::string text, std::size_t position, char byte)
 }
 
 // A document type declaration whose entities would grow to 3 * 10^9
-// characters if expanded, and a parameter entity that would define one more.
-const std::string kLaughs = "<!DOCTYPE Root [\n"
-                            "  <!ENTITY lol \"lol\">\n"
-                            "  <!ENTITY lol1 \"&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;\">\n"
-                            "  <!ENTITY lol2 \"&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;\">\n"
-                            "  <!ENTITY lol3 \"&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;\">\n"
-                            "  <!ENTITY lol4 \"&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;\">\n"
-                            "  <!ENTITY lol5 \"&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;\">\n"
-                            "  <!ENTITY lol6 \"&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;\">\n"
-                            "  <!ENTITY lol7 \"&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;\">\n"
-                            "  <!ENTITY lol8 \"&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;\">\n"
-                            "  <!ENTITY lol9 \"&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;\">\n"
-                            "  <!ENTITY % more \"<!ENTITY boom '&lol9;&lol9;'>\">\n"
-                            "  %more;\n"
-                            "]>\n";
+// characters if expanded, and a parameter entity that would define one more;
+// with `referenceMore`, the declaration refers to that parameter entity.
+std::string Laughs(bool referenceMore)
+{
+    return std::string("<!DOCTYPE Root [\n"
+                       "  <!ENTITY lol \"lol\">\n"
+                       "  <!ENTITY lol1 \"&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;\">\n"
+                       "  <!ENTITY lol2 \"&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;&lol1;\">\n"
+                       "  <!ENTITY lol3 \"&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;\">\n"
+                       "  <!ENTITY lol4 \"&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;\">\n"
+                       "  <!ENTITY lol5 \"&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;&lol4;\">\n"
+                       "  <!ENTITY lol6 \"&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;&lol5;\">\n"
+                       "  <!ENTITY lol7 \"&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;&lol6;\">\n"
+                       "  <!ENTITY lol8 \"&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;&lol7;\">\n"
+                       "  <!ENTITY lol9 \"&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;&lol8;\">\n"
+                       "  <!ENTITY % more \"<!ENTITY boom '&lol9;&lol9;'>\">\n") +
+           (referenceMore ? "  %more;\n" : "") + "]>\n";
+}
 
 // One entity of 100,000 characters, to be referenced many times.
 std::string WideEntity() { return "<!DOCTYPE Root [\n  <!ENTITY wide \"" + std::string(100000, 'w') + "\">\n]>\n"; }
 
 // Entities that name a local file, absolutely and relatively, an external
-// document type and a parameter entity that would pull it in.
-std::string ExternalEntities(const TempDir& dir)
+// document type and a parameter entity that would pull it in; with
+// `referenceRemote`, the declaration refers to that parameter entity.
+std::string ExternalEntities(const TempDir& dir, bool referenceRemote)
 {
     return "<!DOCTYPE Root SYSTEM \"file://" + dir.PathOf("secret.dtd") +
            "\" [\n"
@@ -287,11 +408,12 @@ std::string ExternalEntities(const TempDir& dir)
            "  <!ENTITY rel SYSTEM \"secret.txt\">\n"
            "  <!ENTITY pub PUBLIC \"-//Example//Secret//EN\" \"secret.txt\">\n"
            "  <!ENTITY % remote SYSTEM \"file://" +
-           dir.PathOf("secret.dtd") +
-           "\">\n"
-           "  %remote;\n"
-           "]>\n";
+           dir.PathOf("secret.dtd") + "\">\n" + (referenceRemote ? "  %remote;\n" : "") + "]>\n";
 }
+
+// An inclusion of the file secret.txt as text.
+const std::string kInclude =
+    "<xi:include xmlns:xi=\"http://www.w3.org/2001/XInclude\" href=\"secret.txt\" parse=\"text\"/>";
 
 const char* const kSecret = "TOP-SECRET-7d41";
 
@@ -415,67 +537,76 @@ TEST(HostileCatalogFile, BinaryGarbageFails)
     ExpectExampleUpdates();
 }
 
-TEST(HostileCatalogFile, InvalidUTF8IsReadAsReplacementCharacters)
+TEST(HostileCatalogFile, InvalidUTF8InAnyFieldFailsTheWholeDocument)
+{
+    TempDir dir;
+    std::vector<Labelled> documents;
+    for (const CatalogField& field : kCatalogFields) {
+        for (const std::string& bytes : kInvalidUTF8) {
+            documents.push_back(CatalogWith("", field.name, "a" + bytes + "z"));
+        }
+    }
+    ExpectEachCatalogFailsAndEmptiesTheStore(dir, documents);
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, ValidNonASCIITextInTheSameFieldsIsReadAsWritten)
 {
     TempDir dir;
     CatalogTexts texts;
-    const std::string bad = "a" + kInvalidUTF8 + "z";
-    texts.baseLocation = bad;
-    texts.releaseID = bad;
-    texts.componentName = bad;
-    texts.categoryText = bad;
-    texts.vendorVersion = bad;
-    texts.collectorPath = bad;
+    texts.baseLocation = kValidNonASCII;
+    texts.releaseID = kValidNonASCII;
+    texts.componentName = kValidNonASCII;
+    texts.categoryText = kValidNonASCII;
+    texts.vendorVersion = kValidNonASCII;
+    texts.collectorPath = kValidNonASCII;
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("utf8.xml", Catalog(texts)))));
-    EXPECT_TRUE(IsAReplacedZ(API()->GetBaseLocation()));
-    EXPECT_TRUE(IsAReplacedZ(API()->GetCatalogReleaseID()));
+    const VELString text = VELString::FromUTF8(kValidNonASCII.data(), kValidNonASCII.size());
+    ASSERT_EQ(6u, text.GetUTF16String().size());
+    EXPECT_EQ(text, API()->GetBaseLocation());
+    EXPECT_EQ(text, API()->GetCatalogReleaseID());
     ASSERT_EQ(1u, StoredComponents().size());
     const QRMSoftwareComponent& component = *StoredComponents().front();
-    std::vector<QRMDisplay> names;
-    component.GetName().GetDisplayValues(names);
-    ASSERT_EQ(1u, names.size());
-    EXPECT_TRUE(IsAReplacedZ(names[0].GetValue()));
-    EXPECT_TRUE(IsAReplacedZ(component.GetVendorVersion()));
+    EXPECT_EQ(kValidNonASCII, FirstDisplayText(component.GetName()));
+    EXPECT_EQ(text, component.GetVendorVersion());
     std::map<VELString, VELString> categories;
     API()->GetCategoryValues(categories);
     ASSERT_EQ(1u, categories.count(VELString("BI")));
-    EXPECT_TRUE(IsAReplacedZ(categories[VELString("BI")]));
-    std::vector<QRMInventoryComponent> collectors;
-    API()->GetInventoryComponents(collectors);
-    ASSERT_EQ(1u, collectors.size());
-    EXPECT_TRUE(IsAReplacedZ(collectors[0].GetPath()));
-    EXPECT_TRUE(
-        IsAReplacedZ(API()
-                         ->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22"))
-                         .SubString(static_cast<unsigned int>(API()->GetBaseLocation().GetLength() + 1), 1000)));
+    EXPECT_EQ(text, categories[VELString("BI")]);
+    EXPECT_EQ(text + VELString("/") + text, API()->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")));
     // A version that is not ASCII has no order.
     EXPECT_EQ(-2, API()->CompareVersion(component.GetVendorVersion(), VELString("1.0")));
     EXPECT_EQ(-2, API()->CompareVersion(VELString("1.0"), component.GetVendorVersion()));
     ExpectTheSmallCatalogGivesItsUpdate();
 }
 
-TEST(HostileCatalogFile, InvalidUTF8InElementNamesLeavesThoseElementsUnread)
+TEST(HostileCatalogFile, InvalidUTF8InAnElementOrAttributeNameFailsTheWholeDocument)
 {
     TempDir dir;
-    std::string xml = Catalog(CatalogTexts());
-    std::string renamed = xml;
-    renamed.replace(renamed.find("<SoftwareComponent "), 19,
-                    "<Software\xFF"
-                    "Component ");
-    renamed.replace(renamed.find("</SoftwareComponent>"), 20,
-                    "</Software\xFF"
-                    "Component>");
-    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("names.xml", renamed))));
-    EXPECT_EQ(0u, StoredComponents().size());
-    EXPECT_EQ(1u, StoredBundles().size());
-    // A required child whose name is not UTF-8 is a missing child.
-    std::string unnamed = xml;
-    unnamed.replace(unnamed.find("<Category value"), 9, "<Cat\xC3gory");
-    unnamed.replace(unnamed.find("</Category>"), 11, "</Cat\xC3gory>");
-    EXPECT_EQ(QRM_KIT_ELEMENT_MISSING, API()->Parse(VELFile(dir.Write("unnamed.xml", unnamed))));
-    EXPECT_FALSE(API()->IsCatalogParsed());
-    EXPECT_EQ(1u, StoredBundles().size());
-    EXPECT_EQ(0u, StoredComponents().size());
+    const std::string xml = Catalog(CatalogTexts());
+    // An entry, a required child of an entry, the root, an attribute.
+    std::string component = xml;
+    component.replace(component.find("<SoftwareComponent "), 19,
+                      "<Software\xFF"
+                      "Component ");
+    component.replace(component.find("</SoftwareComponent>"), 20,
+                      "</Software\xFF"
+                      "Component>");
+    std::string category = xml;
+    category.replace(category.find("<Category value"), 9, "<Cat\xC3gory");
+    category.replace(category.find("</Category>"), 11, "</Cat\xC3gory>");
+    std::string root = xml;
+    root.replace(root.find("<Manifest "), 10,
+                 "<Mani\xED\xA0\x80"
+                 "fest ");
+    root.replace(root.find("</Manifest>"), 11,
+                 "</Mani\xED\xA0\x80"
+                 "fest>");
+    std::string attribute = xml;
+    attribute.replace(attribute.find(" packageID=\"P1\"><Name>"), 11, " package\x80ID=");
+    ExpectEachCatalogFailsAndEmptiesTheStore(
+        dir, {{"component", component}, {"category", category}, {"root", root}, {"attribute", attribute}});
+    ExpectExampleUpdates();
 }
 
 TEST(HostileCatalogFile, UTF16WithADanglingByteAfterTheDocumentIsReadWhole)
@@ -550,110 +681,196 @@ TEST(HostileCatalogFile, NulBytesInTheDocumentFail)
     ExpectExampleUpdates();
 }
 
-TEST(HostileCatalogFile, NothingAfterTheRootElementIsRead)
+TEST(HostileCatalogFile, AnythingAfterTheRootElementFailsTheDocument)
 {
     // What follows the root element, behind a NUL byte or not, is not part
-    // of the document: the entries it spells are never read.
+    // of the document: a file that holds it is no catalog.
     TempDir dir;
     const std::string xml = Catalog(CatalogTexts());
     const std::string more = "<SoftwareComponent path=\"x\"/><Manifest baseLocation=\"other\"/>";
-    for (const std::string& tail : {std::string(1, '\0'), std::string(1, '\0') + "\n", std::string(1, '\0') + more,
-                                    std::string("\n") + '\0' + more, more}) {
-        ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("tail.xml", xml + tail))));
-        EXPECT_EQ(VELString("updates.example.net"), API()->GetBaseLocation());
-        EXPECT_EQ(1u, StoredComponents().size());
-        EXPECT_EQ(1u, StoredBundles().size());
+    std::vector<Labelled> documents;
+    for (const std::string& tail :
+         {std::string(1, '\0'), std::string(1, '\0') + "\n", std::string(1, '\0') + more,
+          std::string("\n") + '\0' + more, more, std::string("<Manifest baseLocation=\"other\"/>"),
+          std::string("trailing text\n"), std::string("</Manifest>\n"), std::string("&amp;")}) {
+        documents.push_back({"tail " + tail, xml + tail});
     }
+    ExpectEachCatalogFailsAndEmptiesTheStore(dir, documents);
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, BlanksCommentsAndProcessingInstructionsAfterTheRootElementAreRead)
+{
+    TempDir dir;
+    const std::string xml = Catalog(CatalogTexts()) + "\n<!-- after the root -->\n<?after the root?>\r\n\t \n";
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("tail.xml", xml))));
+    EXPECT_EQ(VELString("updates.example.net"), API()->GetBaseLocation());
+    EXPECT_EQ(1u, StoredComponents().size());
+    EXPECT_EQ(1u, StoredBundles().size());
     ExpectTheSmallCatalogGivesItsUpdate();
 }
 
-TEST(HostileCatalogFile, UndefinedEntityReferencesStayAsWritten)
+TEST(HostileCatalogFile, UndefinedEntityReferencesFailTheDocument)
+{
+    TempDir dir;
+    std::vector<Labelled> documents;
+    for (const CatalogField& field : kCatalogFields) {
+        documents.push_back(CatalogWith("", field.name, "a&undefined;b"));
+    }
+    // Next to a predefined one, a name of HTML, predefined names in other
+    // cases.
+    for (const char* text : {"x &amp; &unknown; y", "&nbsp;", "&AMP;", "&Lt;"}) {
+        documents.push_back(CatalogWith("", "categoryText", text));
+    }
+    ExpectEachCatalogFailsAndEmptiesTheStore(dir, documents);
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, PredefinedEntitiesAndCharacterReferencesAreReadAsTheirCharacters)
 {
     TempDir dir;
     CatalogTexts texts;
-    texts.baseLocation = "a&undefined;b";
-    texts.componentName = "&nope;";
-    texts.vendorVersion = "&version;";
-    texts.categoryText = "x &amp; &unknown; y";
-    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("entities.xml", Catalog(texts)))));
-    EXPECT_EQ(VELString("a&undefined;b"), API()->GetBaseLocation());
+    texts.baseLocation = "a&amp;b";
+    texts.componentName = "&#x65E5;&#26412;";
+    texts.categoryText = "x &amp; &lt;&gt;&apos;&quot; &#65;&#x42; y";
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("references.xml", Catalog(texts)))));
+    EXPECT_EQ(VELString("a&b"), API()->GetBaseLocation());
     ASSERT_EQ(1u, StoredComponents().size());
-    EXPECT_EQ("&nope;", FirstDisplayText(StoredComponents().front()->GetName()));
-    EXPECT_EQ(VELString("&version;"), StoredComponents().front()->GetVendorVersion());
+    EXPECT_EQ("\xE6\x97\xA5\xE6\x9C\xAC", FirstDisplayText(StoredComponents().front()->GetName()));
     std::map<VELString, VELString> categories;
     API()->GetCategoryValues(categories);
-    EXPECT_EQ(VELString("x & &unknown; y"), categories[VELString("BI")]);
+    EXPECT_EQ(VELString("x & <>'\" AB y"), categories[VELString("BI")]);
     ExpectTheSmallCatalogGivesItsUpdate();
 }
 
-TEST(HostileCatalogFile, ExponentialEntitiesAreNeverExpanded)
+TEST(HostileCatalogFile, ExponentialEntityReferencesFailWithinBoundedMemory)
+{
+    TempDir dir;
+    const std::string laughs = Laughs(false);
+    CatalogTexts more;
+    more.doctype = Laughs(true);
+    const std::size_t before = PeakResidentBytes();
+    const std::size_t largest =
+        ExpectEachCatalogFailsAndEmptiesTheStore(dir, {CatalogWith(laughs, "baseLocation", "&lol9;"),
+                                                       CatalogWith(laughs, "bundleName", "&lol9;&lol9;"),
+                                                       CatalogWith(laughs, "componentName", "&boom;"),
+                                                       CatalogWith(laughs, "categoryText", "&lol9;"),
+                                                       CatalogWith(laughs, "vendorVersion", "&lol9;"),
+                                                       // The parameter-entity reference in the declaration alone.
+                                                       {"%more;", Catalog(more)}});
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(largest, 64));
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, ExponentialEntitiesDeclaredButNeverReferencedAreReadAndNeverExpanded)
 {
     TempDir dir;
     CatalogTexts texts;
-    texts.doctype = kLaughs;
-    texts.baseLocation = "&lol9;";
-    texts.bundleName = "&lol9;&lol9;";
-    texts.componentName = "&boom;";
-    texts.categoryText = "&lol9;";
-    texts.vendorVersion = "&lol9;";
+    texts.doctype = Laughs(false);
     const std::string xml = Catalog(texts);
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("laughs.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    EXPECT_EQ(VELString("&lol9;"), API()->GetBaseLocation());
+    EXPECT_EQ(VELString("updates.example.net"), API()->GetBaseLocation());
     ASSERT_EQ(1u, StoredBundles().size());
-    EXPECT_EQ("&lol9;&lol9;", FirstDisplayText(StoredBundles().front()->GetName()));
+    EXPECT_EQ("Bundle", FirstDisplayText(StoredBundles().front()->GetName()));
     ASSERT_EQ(1u, StoredComponents().size());
-    EXPECT_EQ("&boom;", FirstDisplayText(StoredComponents().front()->GetName()));
-    EXPECT_EQ(VELString("&lol9;"), StoredComponents().front()->GetVendorVersion());
+    EXPECT_EQ("Component", FirstDisplayText(StoredComponents().front()->GetName()));
+    EXPECT_EQ(VELString("2.4.1"), StoredComponents().front()->GetVendorVersion());
     EXPECT_LT(EveryStoredText().size(), 10000u);
     ExpectTheSmallCatalogGivesItsUpdate();
 }
 
-TEST(HostileCatalogFile, OneWideEntityReferencedManyTimesIsNeverExpanded)
+TEST(HostileCatalogFile, OneWideEntityReferencedManyTimesFailsWithinBoundedMemory)
+{
+    TempDir dir;
+    // 2 * 10^9 characters if expanded.
+    const std::size_t before = PeakResidentBytes();
+    const std::size_t largest = ExpectEachCatalogFailsAndEmptiesTheStore(
+        dir, {CatalogWith(WideEntity(), "baseLocation", Repeat("&wide;", 20000))});
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(largest, 64));
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, OneWideEntityDeclaredButNeverReferencedIsRead)
 {
     TempDir dir;
     CatalogTexts texts;
     texts.doctype = WideEntity();
-    // 2 * 10^9 characters if expanded.
-    texts.baseLocation = Repeat("&wide;", 20000);
     const std::string xml = Catalog(texts);
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
-    EXPECT_EQ(VELString(Repeat("&wide;", 20000).c_str()), API()->GetBaseLocation());
+    EXPECT_EQ(VELString("updates.example.net"), API()->GetBaseLocation());
+    EXPECT_LT(EveryStoredText().size(), 10000u);
+    ExpectTheSmallCatalogGivesItsUpdate();
 }
 
-TEST(HostileCatalogFile, ExternalEntitiesNeverReadTheFilesTheyName)
+TEST(HostileCatalogFile, ExternalEntityReferencesFailAndNeverReadTheFilesTheyName)
+{
+    TempDir dir;
+    WriteSecrets(dir);
+    const std::string external = ExternalEntities(dir, false);
+    CatalogTexts remote;
+    remote.doctype = ExternalEntities(dir, true);
+    ExpectEachCatalogFailsAndEmptiesTheStore(dir, {CatalogWith(external, "baseLocation", "&file;"),
+                                                   CatalogWith(external, "releaseID", "&rel;"),
+                                                   CatalogWith(external, "version", "&leak;"),
+                                                   CatalogWith(external, "bundleName", "&pub;"),
+                                                   CatalogWith(external, "componentName", "&file;&rel;&leak;&pub;"),
+                                                   CatalogWith(external, "categoryText", "&file;"),
+                                                   CatalogWith(external, "vendorVersion", "&leak;"),
+                                                   CatalogWith(external, "componentPath", "dir/&rel;"),
+                                                   CatalogWith(external, "collectorPath", "&file;"),
+                                                   // The parameter-entity reference in the declaration alone.
+                                                   {"%remote;", Catalog(remote)}});
+    const std::string stored = EveryStoredText();
+    EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
+    ExpectExampleUpdates();
+}
+
+TEST(HostileCatalogFile, ExternalEntitiesDeclaredButNeverReferencedAreReadAndTheFilesNeverRead)
 {
     TempDir dir;
     WriteSecrets(dir);
     CatalogTexts texts;
-    texts.doctype = ExternalEntities(dir);
-    texts.baseLocation = "&file;";
-    texts.releaseID = "&rel;";
-    texts.version = "&leak;";
-    texts.bundleName = "&pub;";
-    texts.componentName = "&file;&rel;&leak;&pub;";
-    texts.categoryText = "&file;";
-    texts.vendorVersion = "&leak;";
-    texts.componentPath = "dir/&rel;";
-    texts.collectorPath = "&file;";
-    std::string xml = Catalog(texts);
-    // And an inclusion of the file as text.
-    const std::string include =
-        "<xi:include xmlns:xi=\"http://www.w3.org/2001/XInclude\" href=\"secret.txt\" parse=\"text\"/>";
-    xml.insert(xml.find("</Manifest>"), include);
-    xml.insert(xml.find("&file;</Display></Category>"), include);
-    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("external.xml", xml))));
+    texts.doctype = ExternalEntities(dir, false);
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("external.xml", Catalog(texts)))));
     const std::string stored = EveryStoredText();
     EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
-    EXPECT_EQ(VELString("&file;"), API()->GetBaseLocation());
-    EXPECT_EQ(VELString("&rel;"), API()->GetCatalogReleaseID());
-    EXPECT_EQ(VELString("&leak;"), API()->GetCatalogVersion());
+    EXPECT_EQ(VELString("updates.example.net"), API()->GetBaseLocation());
+    EXPECT_EQ(VELString("R1"), API()->GetCatalogReleaseID());
+    EXPECT_EQ(VELString("1.0"), API()->GetCatalogVersion());
     ASSERT_EQ(1u, StoredComponents().size());
-    EXPECT_EQ("&file;&rel;&leak;&pub;", FirstDisplayText(StoredComponents().front()->GetName()));
-    EXPECT_EQ(VELString("&file;/&file;"), API()->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")));
+    EXPECT_EQ("Component", FirstDisplayText(StoredComponents().front()->GetName()));
+    EXPECT_EQ(VELString("updates.example.net/collectors/w22.exe"),
+              API()->GetInventoryFile(QRM_OS_ARCH_X64, VELString("W22")));
+    ExpectTheSmallCatalogGivesItsUpdate();
+}
+
+TEST(HostileCatalogFile, XIncludeElementIsReadAsAPlainElementAndNeverPullsTheFileIn)
+{
+    TempDir dir;
+    WriteSecrets(dir);
+    std::string xml = Catalog(CatalogTexts());
+    // Among the entries, and inside a text that the catalog stores.
+    xml.insert(xml.find("</Manifest>"), kInclude);
+    xml.insert(xml.find("BIOS</Display></Category>"), kInclude);
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->Parse(VELFile(dir.Write("include.xml", xml))));
+    const std::string stored = EveryStoredText();
+    EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
+    EXPECT_EQ(1u, StoredBundles().size());
+    ASSERT_EQ(1u, StoredComponents().size());
+    // A category's text is the first child node of its Display: here the
+    // name of the inclusion element, not the text of the file it names.
+    std::map<VELString, VELString> categories;
+    API()->GetCategoryValues(categories);
+    EXPECT_EQ(VELString("xi:include"), categories[VELString("BI")]);
+    std::vector<QRMInventoryComponent> collectors;
+    API()->GetInventoryComponents(collectors);
+    ASSERT_EQ(1u, collectors.size());
+    EXPECT_EQ(VELString("collectors/w22.exe"), collectors[0].GetPath());
+    ExpectTheSmallCatalogGivesItsUpdate();
 }
 
 // -------------------------------------------------------------- inventory
@@ -724,34 +941,57 @@ TEST(HostileInventoryFile, BinaryGarbageFails)
     ExpectExampleUpdates();
 }
 
-TEST(HostileInventoryFile, InvalidUTF8IsReadAsReplacementCharacters)
+TEST(HostileInventoryFile, InvalidUTF8InAnyFieldOrElementNameFailsTheWholeDocument)
+{
+    TempDir dir;
+    std::vector<Labelled> documents;
+    for (const InventoryField& field : kInventoryFields) {
+        for (const std::string& bytes : kInvalidUTF8) {
+            documents.push_back(InventoryWith("", field.name, "a" + bytes + "z"));
+        }
+    }
+    // In the language code, between its two letters.
+    documents.push_back(InventoryWith("", "lang", "e\xFFn"));
+    std::string element = Inventory(InventoryTexts());
+    element.replace(element.find("<Device "), 8,
+                    "<Dev\xC3"
+                    "ce ");
+    element.replace(element.find("</Device>"), 9,
+                    "</Dev\xC3"
+                    "ce>");
+    documents.push_back({"element name", element});
+    ExpectEachInventoryFailsAndStoresNothing(dir, documents);
+}
+
+TEST(HostileInventoryFile, ValidNonASCIITextInTheSameFieldsIsReadAsWritten)
 {
     TempDir dir;
     InventoryTexts texts;
-    const std::string bad = "a" + kInvalidUTF8 + "z";
-    texts.lang = "e" + kInvalidUTF8 + "n";
-    texts.schemaVersion = bad;
-    texts.osVendor = bad;
-    texts.systemDisplay = bad;
-    texts.deviceDisplay = bad;
-    texts.applicationVersion = bad;
+    texts.schemaVersion = kValidNonASCII;
+    texts.osVendor = kValidNonASCII;
+    texts.systemDisplay = kValidNonASCII;
+    texts.deviceDisplay = kValidNonASCII;
+    texts.applicationVersion = kValidNonASCII;
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("utf8.xml", Inventory(texts)))));
+    const VELString text = VELString::FromUTF8(kValidNonASCII.data(), kValidNonASCII.size());
+    ASSERT_EQ(6u, text.GetUTF16String().size());
     EXPECT_EQ(QRM_LANG_EN, API()->GetInventoryLanguage());
-    EXPECT_TRUE(IsAReplacedZ(API()->GetInventorySchemaVersion()));
+    EXPECT_EQ(text, API()->GetInventorySchemaVersion());
     std::vector<QRMOperatingSystem> oses;
     API()->GetInventoryOperatingSystems(oses);
     ASSERT_EQ(1u, oses.size());
-    EXPECT_TRUE(IsAReplacedZ(oses[0].GetVendor()));
+    EXPECT_EQ(text, oses[0].GetVendor());
     std::vector<QRMISystem> systems;
     API()->GetInventorySystems(systems);
     ASSERT_EQ(1u, systems.size());
-    EXPECT_TRUE(IsAReplacedZ(systems[0].GetDisplay()));
+    EXPECT_EQ(text, systems[0].GetDisplay());
     EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
     ASSERT_EQ(1u, StoredDevices().size());
-    EXPECT_TRUE(IsAReplacedZ(StoredDevices()[0]->GetDisplay()));
+    EXPECT_EQ(text, StoredDevices()[0]->GetDisplay());
     ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
     const VELString version = ApplicationsOf(*StoredDevices()[0])[0]->GetVersion();
-    EXPECT_TRUE(IsAReplacedZ(version));
+    EXPECT_EQ(text, version);
+    // A version that is not ASCII has no order.
     EXPECT_EQ(-2, API()->CompareVersion(version, VELString("2.4.1")));
     ExpectTheSmallInventoryGetsItsUpdate();
 }
@@ -807,96 +1047,157 @@ TEST(HostileInventoryFile, NulBytesInTheDocumentFail)
     ExpectExampleUpdates();
 }
 
-TEST(HostileInventoryFile, NothingAfterTheRootElementIsRead)
+TEST(HostileInventoryFile, AnythingAfterTheRootElementFailsTheDocument)
 {
     TempDir dir;
     const std::string xml = Inventory(InventoryTexts());
     const std::string more = "<Device componentID=\"1\" display=\"Injected\"/><System systemID=\"1\"/>";
-    ASSERT_EQ(QRM_KIT_SUCCESS,
-              API()->ParseInventory(VELFile(dir.Write("tail.xml", xml + std::string(1, '\0') + more))));
-    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("tail.xml", xml + more))));
-    EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
-    // The second read stores its device with an application a second time;
-    // the injected device is never read.
-    ASSERT_EQ(2u, StoredDevices().size());
-    EXPECT_EQ(VELString("BIOS"), StoredDevices()[1]->GetDisplay());
+    std::vector<Labelled> documents;
+    for (const std::string& tail : {std::string(1, '\0'), std::string(1, '\0') + more, more,
+                                    std::string("<SVMInventory lang=\"fr\"/>"), std::string("trailing text\n")}) {
+        documents.push_back({"tail " + tail, xml + tail});
+    }
+    ExpectEachInventoryFailsAndStoresNothing(dir, documents);
 }
 
-TEST(HostileInventoryFile, UndefinedEntityReferencesStayAsWritten)
+TEST(HostileInventoryFile, BlanksCommentsAndProcessingInstructionsAfterTheRootElementAreRead)
 {
     TempDir dir;
-    InventoryTexts texts;
-    texts.lang = "&lang;";
-    texts.deviceDisplay = "&device;";
-    texts.applicationVersion = "2 . &minor; .9";
-    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("entities.xml", Inventory(texts)))));
-    EXPECT_EQ(QRM_LANG_EN, API()->GetInventoryLanguage());
+    const std::string xml = Inventory(InventoryTexts()) + "\n<!-- after the root -->\n<?after the root?>\r\n\t \n";
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("tail.xml", xml))));
+    EXPECT_EQ(0x0A6Bu, API()->GetSystemIDFromInventory());
     ASSERT_EQ(1u, StoredDevices().size());
-    EXPECT_EQ(VELString("&device;"), StoredDevices()[0]->GetDisplay());
-    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
-    EXPECT_EQ(VELString("2.&minor;.9"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
+    EXPECT_EQ(VELString("BIOS"), StoredDevices()[0]->GetDisplay());
     ExpectTheSmallInventoryGetsItsUpdate();
 }
 
-TEST(HostileInventoryFile, ExponentialEntitiesAreNeverExpanded)
+TEST(HostileInventoryFile, UndefinedEntityReferencesFailTheDocument)
+{
+    TempDir dir;
+    std::vector<Labelled> documents;
+    for (const InventoryField& field : kInventoryFields) {
+        documents.push_back(InventoryWith("", field.name, "a&undefined;b"));
+    }
+    documents.push_back(InventoryWith("", "lang", "&lang;"));
+    documents.push_back(InventoryWith("", "applicationVersion", "2 . &minor; .9"));
+    ExpectEachInventoryFailsAndStoresNothing(dir, documents);
+}
+
+TEST(HostileInventoryFile, ExponentialEntityReferencesFailWithinBoundedMemory)
+{
+    TempDir dir;
+    const std::string laughs = Laughs(false);
+    InventoryTexts more;
+    more.doctype = Laughs(true);
+    const std::size_t before = PeakResidentBytes();
+    const std::size_t largest =
+        ExpectEachInventoryFailsAndStoresNothing(dir, {InventoryWith(laughs, "lang", "&lol9;"),
+                                                       InventoryWith(laughs, "deviceDisplay", "&lol9;"),
+                                                       InventoryWith(laughs, "applicationVersion", "&boom;"),
+                                                       InventoryWith(laughs, "osDisplay", "&lol9;&lol9;"),
+                                                       // The parameter-entity reference in the declaration alone.
+                                                       {"%more;", Inventory(more)}});
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(largest, 64));
+}
+
+TEST(HostileInventoryFile, ExponentialEntitiesDeclaredButNeverReferencedAreReadAndNeverExpanded)
 {
     TempDir dir;
     InventoryTexts texts;
-    texts.doctype = kLaughs;
-    texts.lang = "&lol9;";
-    texts.deviceDisplay = "&lol9;";
-    texts.applicationVersion = "&boom;";
-    texts.osDisplay = "&lol9;&lol9;";
+    texts.doctype = Laughs(false);
     const std::string xml = Inventory(texts);
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("laughs.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
+    EXPECT_EQ(QRM_LANG_EN, API()->GetInventoryLanguage());
     ASSERT_EQ(1u, StoredDevices().size());
-    EXPECT_EQ(VELString("&lol9;"), StoredDevices()[0]->GetDisplay());
+    EXPECT_EQ(VELString("BIOS"), StoredDevices()[0]->GetDisplay());
     ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
-    EXPECT_EQ(VELString("&boom;"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
+    EXPECT_EQ(VELString("2.3.9"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
     EXPECT_LT(EveryStoredText().size(), 10000u);
     ExpectTheSmallInventoryGetsItsUpdate();
 }
 
-TEST(HostileInventoryFile, OneWideEntityReferencedManyTimesIsNeverExpanded)
+TEST(HostileInventoryFile, OneWideEntityReferencedManyTimesFailsWithinBoundedMemory)
+{
+    TempDir dir;
+    // 2 * 10^9 characters if expanded.
+    const std::size_t before = PeakResidentBytes();
+    const std::size_t largest = ExpectEachInventoryFailsAndStoresNothing(
+        dir, {InventoryWith(WideEntity(), "applicationVersion", Repeat("&wide; ", 20000))});
+    EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(largest, 64));
+}
+
+TEST(HostileInventoryFile, OneWideEntityDeclaredButNeverReferencedIsRead)
 {
     TempDir dir;
     InventoryTexts texts;
     texts.doctype = WideEntity();
-    texts.applicationVersion = Repeat("&wide; ", 20000);
     const std::string xml = Inventory(texts);
     const std::size_t before = PeakResidentBytes();
     ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("wide.xml", xml))));
     EXPECT_LT(PeakResidentBytes(), before + MemoryAllowance(xml.size(), 64));
     ASSERT_EQ(1u, StoredDevices().size());
     ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
-    EXPECT_EQ(VELString(Repeat("&wide;", 20000).c_str()), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
+    EXPECT_EQ(VELString("2.3.9"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
+    EXPECT_LT(EveryStoredText().size(), 10000u);
+    ExpectTheSmallInventoryGetsItsUpdate();
 }
 
-TEST(HostileInventoryFile, ExternalEntitiesNeverReadTheFilesTheyName)
+TEST(HostileInventoryFile, ExternalEntityReferencesFailAndNeverReadTheFilesTheyName)
+{
+    TempDir dir;
+    WriteSecrets(dir);
+    const std::string external = ExternalEntities(dir, false);
+    InventoryTexts remote;
+    remote.doctype = ExternalEntities(dir, true);
+    ExpectEachInventoryFailsAndStoresNothing(dir, {InventoryWith(external, "schemaVersion", "&file;"),
+                                                   InventoryWith(external, "osVendor", "&file;"),
+                                                   InventoryWith(external, "osDisplay", "&rel;"),
+                                                   InventoryWith(external, "systemDisplay", "&leak;"),
+                                                   InventoryWith(external, "deviceDisplay", "&file;"),
+                                                   InventoryWith(external, "applicationVersion", "&rel;"),
+                                                   InventoryWith(external, "applicationDisplay", "&pub;"),
+                                                   // The parameter-entity reference in the declaration alone.
+                                                   {"%remote;", Inventory(remote)}});
+    const std::string stored = EveryStoredText();
+    EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
+}
+
+TEST(HostileInventoryFile, ExternalEntitiesDeclaredButNeverReferencedAreReadAndTheFilesNeverRead)
 {
     TempDir dir;
     WriteSecrets(dir);
     InventoryTexts texts;
-    texts.doctype = ExternalEntities(dir);
-    texts.schemaVersion = "&file;";
-    texts.osVendor = "&file;";
-    texts.osDisplay = "&rel;";
-    texts.systemDisplay = "&leak;";
-    texts.deviceDisplay = "&file;";
-    texts.applicationVersion = "&rel;";
-    texts.applicationDisplay = "&pub;";
-    std::string xml = Inventory(texts);
-    xml.insert(xml.find("</Device>"),
-               "<xi:include xmlns:xi=\"http://www.w3.org/2001/XInclude\" href=\"secret.txt\" parse=\"text\"/>");
-    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("external.xml", xml))));
+    texts.doctype = ExternalEntities(dir, false);
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("external.xml", Inventory(texts)))));
     const std::string stored = EveryStoredText();
     EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
-    EXPECT_EQ(VELString("&file;"), API()->GetInventorySchemaVersion());
+    EXPECT_EQ(VELString("1.0"), API()->GetInventorySchemaVersion());
     ASSERT_EQ(1u, StoredDevices().size());
-    EXPECT_EQ(VELString("&file;"), StoredDevices()[0]->GetDisplay());
+    EXPECT_EQ(VELString("BIOS"), StoredDevices()[0]->GetDisplay());
     ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
-    EXPECT_EQ(VELString("&rel;"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
-    EXPECT_EQ(VELString("&pub;"), ApplicationsOf(*StoredDevices()[0])[0]->GetDisplay());
+    EXPECT_EQ(VELString("2.3.9"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
+    ExpectTheSmallInventoryGetsItsUpdate();
+}
+
+TEST(HostileInventoryFile, XIncludeElementIsReadAsAPlainElementAndNeverPullsTheFileIn)
+{
+    TempDir dir;
+    WriteSecrets(dir);
+    std::string xml = Inventory(InventoryTexts());
+    // Among a device's applications, and inside a text the inventory stores.
+    xml.insert(xml.find("</Device>"), kInclude);
+    xml.insert(xml.find("Server OS</Display>"), kInclude);
+    ASSERT_EQ(QRM_KIT_SUCCESS, API()->ParseInventory(VELFile(dir.Write("include.xml", xml))));
+    const std::string stored = EveryStoredText();
+    EXPECT_EQ(std::string::npos, stored.find(kSecret)) << stored;
+    std::vector<QRMOperatingSystem> oses;
+    API()->GetInventoryOperatingSystems(oses);
+    ASSERT_EQ(1u, oses.size());
+    EXPECT_EQ("en=Server OS\n", DisplayTexts(oses[0]));
+    ASSERT_EQ(1u, StoredDevices().size());
+    ASSERT_EQ(1u, ApplicationsOf(*StoredDevices()[0]).size());
+    EXPECT_EQ(VELString("2.3.9"), ApplicationsOf(*StoredDevices()[0])[0]->GetVersion());
+    ExpectTheSmallInventoryGetsItsUpdate();
 }

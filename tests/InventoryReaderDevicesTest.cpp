@@ -637,8 +637,8 @@ TEST(InventoryReaderApplication, ApplicationsBelongToTheirOwnDevice)
 
 TEST(InventoryReaderEncoding, UTF16LittleEndianInventoryReadsLikeItsUTF8Twin)
 {
+    // The same document after each twin's own, true, declaration.
     const std::string document =
-        "<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n"
         "<Inventory lang=\"zh-Hans\" schemaVersion=\"1.0\" timeStamp=\"42\">"
         "<OperatingSystem osArch=\"x64\" osCode=\"WIN\" osVendor=\"Maker\" majorVersion=\"10\">"
         "<Display lang=\"ja\">\xE3\x83\x87\xE3\x82\xB9\xE3\x82\xAF</Display></OperatingSystem>"
@@ -653,7 +653,7 @@ TEST(InventoryReaderEncoding, UTF16LittleEndianInventoryReadsLikeItsUTF8Twin)
     TempDir dir;
 
     // The UTF-8 twin first.
-    ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, "utf8.xml", document));
+    ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, "utf8.xml", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + document));
     std::vector<QRMISystem> systems;
     API()->GetInventorySystems(systems);
     ASSERT_EQ(1u, systems.size());
@@ -680,7 +680,8 @@ TEST(InventoryReaderEncoding, UTF16LittleEndianInventoryReadsLikeItsUTF8Twin)
               ParseText(dir, "other-root.xml", Inventory("", "lang=\"fr\" schemaVersion=\"0\" timeStamp=\"0\"")));
     ASSERT_EQ(QRM_LANG_FR, API()->GetInventoryLanguage());
 
-    ASSERT_EQ(QRM_KIT_SUCCESS, ParseText(dir, "utf16.xml", ToUTF16LE(document)));
+    ASSERT_EQ(QRM_KIT_SUCCESS,
+              ParseText(dir, "utf16.xml", ToUTF16LE("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n" + document)));
     EXPECT_EQ(QRM_LANG_ZH_HANS, API()->GetInventoryLanguage());
     EXPECT_EQ("1.0", U8(API()->GetInventorySchemaVersion()));
     EXPECT_EQ(42ull, API()->GetInventoryTimeStamp().GetValue());

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -279,23 +280,48 @@ TEST(XmlElementAttributes, AttributeTextOfAUTF16DocumentIsUTF8)
     EXPECT_STREQ("gr\xC3\xBC\xC3\x9F \xF0\x9F\x98\x80", doc.Root().GetAttributeText("name"));
 }
 
-TEST(XmlElementAttributes, DuplicateAttributeIsAcceptedAndTheFirstOneIsFound)
+namespace {
+
+// Parses `xml`, which must fail, and gives the error text.
+std::string ErrorOfAFailingParse(const TempDir& dir, const std::string& xml)
 {
-    Parsed doc("<root id=\"first\" other=\"o\" id=\"second\"/>");
+    int errorCode = 0;
+    VELString errorText;
+    std::unique_ptr<VELXMLDocument> parsed(
+        VELDOMParser::Parse(VELFile(dir.Write("doc.xml", xml)), errorCode, errorText));
+    EXPECT_EQ(nullptr, parsed) << xml;
+    EXPECT_NE(0, errorCode) << xml;
+    return errorText.GetUTF8String();
+}
+
+}  // namespace
+
+TEST(XmlElementAttributes, DuplicateAttributeFailsTheParseAndTheErrorSaysWhere)
+{
+    TempDir dir;
+    // The second "id" starts at column 28.
+    EXPECT_EQ("line 1, column 28: an attribute given twice",
+              ErrorOfAFailingParse(dir, "<root id=\"first\" other=\"o\" id=\"second\"/>"));
+    // Among more than eight attributes, on a child: the two "id" start at
+    // columns 28 and 59 of line 2, and the error names one of them.
+    const std::string many = ErrorOfAFailingParse(
+        dir,
+        "<root>\n<e a=\"1\" b=\"2\" c=\"3\" d=\"4\" id=\"5\" f=\"6\" g=\"7\" h=\"8\" i=\"9\" id=\"10\"/>\n</root>");
+    EXPECT_TRUE(many == "line 2, column 28: an attribute given twice" ||
+                many == "line 2, column 59: an attribute given twice")
+        << many;
+    // The same value twice is no less a duplicate.
+    EXPECT_EQ("line 1, column 13: an attribute given twice", ErrorOfAFailingParse(dir, "<root a=\"1\" a=\"1\"/>"));
+}
+
+TEST(XmlElementAttributes, SameAttributeNameOnTwoElementsOrInAnotherCaseIsNoDuplicate)
+{
+    Parsed doc("<root id=\"first\" ID=\"upper\"><child id=\"second\"/></root>");
     XmlElement root = doc.Root();
     ASSERT_FALSE(root.IsNull());
     EXPECT_STREQ("first", root.GetAttributeText("id"));
-    VELString value;
-    EXPECT_TRUE(root.GetAttributeValue("id", value));
-    EXPECT_EQ("first", value.GetUTF8String());
-    const char* names[4] = {};
-    const char* texts[4] = {};
-    ASSERT_EQ(3u, root.GetAttributeTexts(names, texts, 4));
-    EXPECT_STREQ("id", names[0]);
-    EXPECT_STREQ("first", texts[0]);
-    EXPECT_STREQ("other", names[1]);
-    EXPECT_STREQ("id", names[2]);
-    EXPECT_STREQ("second", texts[2]);
+    EXPECT_STREQ("upper", root.GetAttributeText("ID"));
+    EXPECT_STREQ("second", root.GetOnlyChild("child").GetAttributeText("id"));
 }
 
 TEST(XmlElementAttributes, GetAttributeTextsFillsInDocumentOrderAndCountsAll)
