@@ -811,8 +811,9 @@ private:
         }
         const std::string_view name(mText + i, end - i);
         if (name != "lt" && name != "gt" && name != "amp" && name != "apos" && name != "quot") {
-            return Fail(at, "a reference to an entity other than lt, gt, amp, apos and quot "
-                            "(entities a document declares are never expanded)");
+            const std::string what = "a reference to an entity other than lt, gt, amp, apos and quot: &" +
+                                     std::string(name) + "; (entities a document declares are never expanded)";
+            return Fail(at, what.c_str());
         }
         at = end + 1;
         return true;
@@ -927,12 +928,16 @@ private:
         for (std::size_t k = 0; k < count; ++k) {
             mNames.push_back(AttributeName(start, k));
         }
-        std::sort(mNames.begin(), mNames.end());
-        const auto twice = std::adjacent_find(mNames.begin(), mNames.end());
-        if (twice != mNames.end()) {
-            return Fail(static_cast<std::size_t>(twice->data() - mText), "an attribute given twice");
+        // In document order among equal names, so that the fault is at the
+        // first name that repeats one before it, as with few attributes.
+        std::stable_sort(mNames.begin(), mNames.end());
+        const char* first = nullptr;
+        for (std::size_t k = 1; k < mNames.size(); ++k) {
+            if (mNames[k] == mNames[k - 1] && (first == nullptr || mNames[k].data() < first)) {
+                first = mNames[k].data();
+            }
         }
-        return true;
+        return first == nullptr || Fail(static_cast<std::size_t>(first - mText), "an attribute given twice");
     }
 
     // From the root element's '<' at `at` to the end of the text. Only the
