@@ -1,6 +1,6 @@
-# What the fuzzing scripts share: the targets, their options, the fuzz
-# build and the sanitizers' settings. Sourced from the top of the tree,
-# never run.
+# What scripts/fuzz and fuzz/campaign share: the targets, their options,
+# the fuzz build and the sanitizers' settings. Sourced from the top of the
+# tree, never run.
 
 # Every target. fuzz_xml compares the XML reader's decisions with
 # libxml2's; until the reader refuses every document that is not
