@@ -12,6 +12,7 @@
 #include <set>
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,37 +27,59 @@ void Fail(const char* what)
 
 // ---- Scratch files ----
 
-ScratchFile::ScratchFile(const char* stem) : mFd(-1)
+namespace {
+
+[[noreturn]] void SystemFailure(const char* what)
 {
+    std::perror(what);
+    std::exit(2);
+}
+
+}  // namespace
+
+ScratchFile::ScratchFile(const char* stem) : mFd(-1), mNamed(false)
+{
+    // In memory first: writing it costs no file system work, and nothing is
+    // left behind when the process dies. The library opens it again by path.
+    const std::string name = std::string("qrmkit-fuzz-") + stem;
+    mFd = ::memfd_create(name.c_str(), MFD_CLOEXEC);
+    if (mFd >= 0) {
+        mPath = "/proc/self/fd/" + std::to_string(mFd);
+        struct stat info;
+        if (::stat(mPath.c_str(), &info) == 0 && S_ISREG(info.st_mode)) {
+            return;
+        }
+        ::close(mFd);
+    }
+
     const char* dir = std::getenv("TMPDIR");
     if (dir == nullptr || *dir == '\0') {
         dir = "/tmp";
     }
-    std::string pattern = std::string(dir) + "/qrmkit-fuzz-" + stem + "-XXXXXX";
-    std::vector<char> name(pattern.begin(), pattern.end());
-    name.push_back('\0');
-    mFd = ::mkstemp(name.data());
+    std::string pattern = std::string(dir) + "/" + name + "-XXXXXX";
+    std::vector<char> path(pattern.begin(), pattern.end());
+    path.push_back('\0');
+    mFd = ::mkstemp(path.data());
     if (mFd < 0) {
         std::fprintf(stderr, "cannot create a scratch file %s: %s\n", pattern.c_str(), std::strerror(errno));
         std::exit(2);
     }
-    mPath = name.data();
+    mPath = path.data();
+    mNamed = true;
 }
 
 ScratchFile::~ScratchFile()
 {
-    if (mFd >= 0) {
-        ::close(mFd);
+    ::close(mFd);
+    if (mNamed) {
         ::unlink(mPath.c_str());
     }
 }
 
 void ScratchFile::Write(const uint8_t* data, std::size_t size)
 {
-    if (::ftruncate(mFd, 0) != 0) {
-        std::perror("ftruncate");
-        std::exit(2);
-    }
+    // Overwritten in place, then cut to size: the pages already held are
+    // used again.
     std::size_t done = 0;
     while (done < size) {
         ssize_t written = ::pwrite(mFd, data + done, size - done, static_cast<off_t>(done));
@@ -64,10 +87,12 @@ void ScratchFile::Write(const uint8_t* data, std::size_t size)
             continue;
         }
         if (written <= 0) {
-            std::perror("pwrite");
-            std::exit(2);
+            SystemFailure("pwrite");
         }
         done += static_cast<std::size_t>(written);
+    }
+    if (::ftruncate(mFd, static_cast<off_t>(size)) != 0) {
+        SystemFailure("ftruncate");
     }
 }
 
@@ -78,6 +103,12 @@ namespace {
 
 ScratchFile* gCapture = nullptr;
 const char kMessage[] = "Catalog not initialized\n";
+
+[[noreturn]] void Unexpected(const std::string& text)
+{
+    std::fprintf(stderr, "unexpected output: %s\n", text.c_str());
+    Fail("the library wrote something other than \"Catalog not initialized\" lines to standard output");
+}
 
 }  // namespace
 
@@ -90,50 +121,38 @@ void Install()
     gCapture = &capture;
     std::cout.flush();
     std::fflush(stdout);
-    // Appending, so that emptying the file between inputs is enough.
-    int fd = ::open(capture.Path().c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
-    if (fd < 0 || ::dup2(fd, STDOUT_FILENO) < 0) {
-        std::perror("redirecting standard output");
-        std::exit(2);
+    // Appending, so that emptying the file between inputs is enough; the
+    // descriptor stays open for reading.
+    const int fd = capture.Descriptor();
+    if (::fcntl(fd, F_SETFL, O_APPEND) != 0 || ::dup2(fd, STDOUT_FILENO) < 0) {
+        SystemFailure("redirecting standard output");
     }
-    ::close(fd);
 }
 
 std::size_t TakeMessages()
 {
     std::cout.flush();
     std::fflush(stdout);
-    int fd = ::open(gCapture->Path().c_str(), O_RDWR | O_CLOEXEC);
-    if (fd < 0) {
-        std::perror("reading captured output");
-        std::exit(2);
-    }
+    const int fd = gCapture->Descriptor();
     struct stat info;
     if (::fstat(fd, &info) != 0) {
-        std::perror("fstat");
-        std::exit(2);
+        SystemFailure("fstat");
     }
-    std::size_t size = static_cast<std::size_t>(info.st_size);
+    const std::size_t size = static_cast<std::size_t>(info.st_size);
     if (size == 0) {
-        ::close(fd);
         return 0;
     }
     std::string text(size, '\0');
-    ssize_t got = ::pread(fd, &text[0], size, 0);
-    if (got != static_cast<ssize_t>(size) || ::ftruncate(fd, 0) != 0) {
-        std::perror("reading captured output");
-        std::exit(2);
+    if (::pread(fd, &text[0], size, 0) != static_cast<ssize_t>(size) || ::ftruncate(fd, 0) != 0) {
+        SystemFailure("reading captured output");
     }
-    ::close(fd);
     const std::size_t length = sizeof(kMessage) - 1;
     if (size % length != 0) {
-        std::fprintf(stderr, "unexpected output: %s\n", text.c_str());
-        Fail("the library wrote something other than \"Catalog not initialized\" lines to standard output");
+        Unexpected(text);
     }
     for (std::size_t at = 0; at < size; at += length) {
         if (text.compare(at, length, kMessage) != 0) {
-            std::fprintf(stderr, "unexpected output: %s\n", text.c_str());
-            Fail("the library wrote something other than \"Catalog not initialized\" lines to standard output");
+            Unexpected(text);
         }
     }
     return size / length;
@@ -601,7 +620,7 @@ uint64_t Walk(const QRMISystem& system)
 
 // ---- Applicable updates ----
 
-void CheckApplicableUpdates(QRMKitAPI& api, std::size_t firstCheckedDevice)
+void CheckApplicableUpdates(QRMKitAPI& api)
 {
     const bool catalogParsed = api.IsCatalogParsed();
     const bool inventoryParsed = api.IsInventoryParsed();
@@ -684,9 +703,9 @@ void CheckApplicableUpdates(QRMKitAPI& api, std::size_t firstCheckedDevice)
                   "GetApplicableUpdates: a component that does not support the application's device");
         }
 
-        // The whole answer, for the devices asked about, against the plain walk.
+        // The whole answer against the plain walk.
         const reference::Matcher matcher(api, *bundle, components);
-        for (std::size_t i = firstCheckedDevice; i < devices.size(); ++i) {
+        for (std::size_t i = 0; i < devices.size(); ++i) {
             std::vector<QRMIApplication*> applications;
             devices[i]->GetApplications(applications);
             for (QRMIApplication* application : applications) {

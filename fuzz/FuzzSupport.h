@@ -27,8 +27,10 @@ inline void Check(bool condition, const char* what)
     }
 }
 
-// A file under $TMPDIR (or /tmp) whose name is unique to this process,
-// removed when the process exits normally.
+// A scratch file of this process: in memory (memfd_create), reached by the
+// path /proc/self/fd/N, or, where that is not available, a file under
+// $TMPDIR (or /tmp) named qrmkit-fuzz-<stem>-XXXXXX, removed when the
+// process exits normally.
 class ScratchFile {
 public:
     explicit ScratchFile(const char* stem);
@@ -41,10 +43,12 @@ public:
     void Write(const std::string& text) { Write(reinterpret_cast<const uint8_t*>(text.data()), text.size()); }
     const std::string& Path() const { return mPath; }
     VELFile File() const { return VELFile(mPath); }
+    int Descriptor() const { return mFd; }
 
 private:
     std::string mPath;
     int mFd;
+    bool mNamed;
 };
 
 // From Install on, standard output goes to a scratch file. The library's
@@ -78,15 +82,14 @@ void Consume(uint64_t value);
 // succeeds exactly when both stores are parsed and a bundle applies, never
 // clears the caller's map, leaves it alone on failure, and maps exactly the
 // applications that a plain walk of the selection rules maps, to the same
-// components. The plain walk is done for the devices from
-// `firstCheckedDevice` on (the inventory target checks only what the input
-// added: the rest was checked when it came and cannot change).
-void CheckApplicableUpdates(QRMKitAPI& api, std::size_t firstCheckedDevice = 0);
+// components, for every stored device.
+void CheckApplicableUpdates(QRMKitAPI& api);
 
 // A small catalog (bundles for system 0A6B and for system id 0, components
 // matched by component id and by PCI ids) and a small inventory (system
 // 0A6B, devices by component id and by PCI ids, one with component id 2331)
-// that the targets load once at start-up.
+// that the targets read at start-up (and fuzz_inventory again before every
+// other input).
 extern const char kFixedCatalog[];
 extern const char kFixedInventory[];
 

@@ -1,21 +1,30 @@
 // Catalog reader: the input is a catalog file. It is parsed, then every query
 // of the library is asked of the result and every value object is walked.
 //
-// The inventory store holds a fixed small inventory (read once at start-up),
+// The inventory store holds a fixed small inventory, read once at start-up,
 // so that bundle selection and the matching of updates have something to
-// match against.
+// match against; no catalog query changes it.
 //
-// Process-wide growth: the category maps of the catalog store survive every
-// Parse and Reset for the life of the process (the library keeps them on
-// purpose), so each input with new category codes adds to them. The
-// category queries walk the whole maps, so a long-lived process gets slower
-// and bigger; scripts/fuzz therefore restarts this target every N runs
-// (see fuzz/README.md).
+// Every input starts from the catalog store's state at load time: the hook
+// of the fuzz build (qrm::fuzzing::ResetCatalogStore) empties it, the
+// category values and acronyms included, which Parse and Reset keep on
+// purpose. It is emptied again when the input is done, so that an input
+// leaves the heap as it found it and libFuzzer's leak check after each
+// input stays meaningful. One process therefore runs for as long as it is
+// let, at the same speed and size, and every finding reproduces on its own.
+// That the category maps survive Reset and Parse is covered by the unit
+// tests (CategoryAcronyms).
+//
+// Half the inputs (chosen by size) meet a filled catalog store: a small
+// earlier catalog is read first and its categories given acronyms, so that
+// Parse replaces entries and the input's categories join maps that already
+// hold some. Every other input ends with a Reset, which must leave no entry
+// behind.
 #include "FuzzSupport.h"
 
+#include "api/QRMFuzzHooks.h"
+
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <map>
 #include <set>
 #include <vector>
@@ -25,6 +34,7 @@ using namespace qrmfuzz;
 namespace {
 
 ScratchFile* gCatalog = nullptr;
+ScratchFile* gEarlierCatalog = nullptr;
 
 void CheckInventoryComponents(QRMKitAPI& api, bool parsed, std::size_t& expectedMessages)
 {
@@ -106,15 +116,47 @@ void CheckCategories(QRMKitAPI& api)
     }
 }
 
-// What has piled up in the process-wide category maps, for the log.
-void ReportGrowth()
+// A catalog read before the input, for half the inputs: an entry of each
+// kind, a category code that is its own acronym and one that gets a
+// generated acronym.
+const char kEarlierCatalog[] = R"(<?xml version="1.0" encoding="utf-8"?>
+<Manifest baseLocation="earlier.example.com" dateTime="1700000000" releaseID="EARLIER" version="0.9">
+  <SoftwareBundle bundleID="S740W64.00040" bundleType="BTW64" path="b/earlier.exe">
+    <Name><Display lang="en">Earlier bundle</Display></Name>
+    <ComponentType value="SBDL"/>
+    <TargetSystems><Brand key="3" prefix="SRV"><Model systemID="0A6B"/></Brand></TargetSystems>
+    <Contents><Package path="BIOS.EXE" packageID="P1"/><Package path="NICDRV.EXE" packageID="P4"/></Contents>
+  </SoftwareBundle>
+  <SoftwareComponent packageID="P1" path="BIOS.EXE" vendorVersion="2.0">
+    <Name><Display lang="en">System BIOS</Display></Name>
+    <ComponentType value="BIOS"/>
+    <Category value="BI"><Display lang="en">BIOS</Display></Category>
+    <SupportedDevices><Device componentID="159"/></SupportedDevices>
+  </SoftwareComponent>
+  <SoftwareComponent packageID="P4" path="NICDRV.EXE" vendorVersion="1.0">
+    <Name><Display lang="en">Adapter driver</Display></Name>
+    <ComponentType value="DRVR"/>
+    <Category value="Network Drivers"><Display lang="en">Network Drivers</Display></Category>
+    <SupportedDevices><Device componentID="0"><PCIInfo deviceID="1593" vendorID="8086"/></Device></SupportedDevices>
+  </SoftwareComponent>
+  <InventoryComponent osCode="W22" path="collectors/earlier.exe"/>
+</Manifest>
+)";
+
+// The catalog store as at load time (and, for half the inputs, filled by
+// the earlier catalog); the fixed inventory still held.
+void StartInput(QRMKitAPI& api, bool withEarlierCatalog)
 {
+    qrm::fuzzing::ResetCatalogStore();
     std::map<VELString, VELString> values;
-    std::map<VELString, VELString> acronyms;
-    QRMKitAPI::Instance()->GetCategoryValues(values);
-    QRMKitAPI::Instance()->GetAcronymForCategoryValues(acronyms);
-    std::fprintf(stderr, "fuzz_catalog: %zu category values and %zu acronyms held at exit\n", values.size(),
-                 acronyms.size());
+    api.GetCategoryValues(values);
+    Check(!api.IsInitialized() && !api.IsCatalogParsed() && values.empty(),
+          "ResetCatalogStore: the catalog store is not as at load time");
+    Check(api.IsInventoryParsed() && api.GetSystemIDFromInventory() == 0x0A6B, "the fixed inventory is no longer held");
+    if (withEarlierCatalog) {
+        Check(api.Parse(gEarlierCatalog->File()) == QRM_KIT_SUCCESS, "the earlier catalog does not parse");
+        api.SetAcronymForCategoryValues();
+    }
 }
 
 }  // namespace
@@ -124,13 +166,15 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
     StdoutWatch::Install();
     static ScratchFile catalog("catalog");
     gCatalog = &catalog;
+    static ScratchFile earlierCatalog("earlier-catalog");
+    earlierCatalog.Write(std::string(kEarlierCatalog));
+    gEarlierCatalog = &earlierCatalog;
 
     ScratchFile inventory("inventory");
     inventory.Write(std::string(kFixedInventory));
     QRMKitAPI* api = QRMKitAPI::Instance();
     Check(api->ParseInventory(inventory.File()) == QRM_KIT_SUCCESS, "the fixed inventory does not parse");
     Check(api->GetSystemIDFromInventory() == 0x0A6B, "the fixed inventory has not system id 0A6B");
-    std::atexit(ReportGrowth);
     return 0;
 }
 
@@ -138,6 +182,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     QRMKitAPI* api = QRMKitAPI::Instance();
     Check(api == QRMKitAPI::Instance(), "Instance: two different instances");
+    StartInput(*api, (size / 2) % 2 == 1);
     gCatalog->Write(data, size);
 
     Check(api->Initialize(gCatalog->File()) == QRM_KIT_SUCCESS && api->IsInitialized(),
@@ -183,8 +228,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     Check(StdoutWatch::TakeMessages() == expectedMessages,
           "\"Catalog not initialized\" not printed exactly once per lookup on an unparsed catalog");
 
-    // Every other input is followed by a Reset, so that Parse meets both an
-    // empty and a filled store.
+    // Every other input ends with a Reset, which leaves no entry behind
+    // (only the category maps, on purpose).
     if (size % 2 == 1) {
         Check(api->Reset() == QRM_KIT_SUCCESS && !api->IsInitialized(), "Reset: still initialised");
         Check(!api->IsCatalogParsed() && api->GetBaseLocation().IsEmpty(), "Reset: the catalog is still parsed");
@@ -196,5 +241,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         api->GetInventoryComponents(leftEntries);
         Check(leftComponents.empty() && leftBundles.empty() && leftEntries.empty(), "Reset: entries are still held");
     }
+
+    // Nothing is left for the next input: the heap is as the input found it.
+    qrm::fuzzing::ResetCatalogStore();
     return 0;
 }

@@ -1,23 +1,29 @@
 // Inventory reader: the input is an inventory file. It is read into the
 // inventory store, then the store is listed and walked, and the applicable
-// updates are asked for against a fixed small catalog read once at start-up.
+// updates are asked for against a fixed small catalog, read once at
+// start-up; no inventory read or query changes the catalog store.
 //
-// Process-wide growth: the inventory store is never emptied (the library
-// keeps what every ParseInventory stored, by design), so each input adds to
-// it and every later input pays for what came before. scripts/fuzz
-// therefore runs this target as a series of short-lived processes sharing
-// one corpus directory (see fuzz/README.md). A finding that needs the
-// store's earlier contents shows up as an input that does not crash when
-// run alone; the log of the process that found it holds the whole story.
+// Every input starts from the inventory store's state at load time: the
+// hook of the fuzz build (qrm::fuzzing::ResetInventoryStore) empties it,
+// which nothing in the library ever does. It is emptied again when the
+// input is done, so that an input leaves the heap as it found it and
+// libFuzzer's leak check after each input stays meaningful. One process
+// therefore runs for as long as it is let, at the same speed and size, and
+// every finding reproduces on its own. That repeated reads add to the
+// inventory store is covered by the unit tests (InventoryReaderStore).
 //
-// Once two different systems are stored, GetSystemIDFromInventory gives 0;
-// the fixed catalog has a bundle for system id 0 so that the matching of
-// updates stays reachable after that.
+// Half the inputs (those of odd size) meet a filled inventory store: the
+// fixed inventory is read first, so that the input's items are compared
+// with stored ones (equal ones are not stored twice) and a second system
+// makes GetSystemIDFromInventory give 0; the fixed catalog has a bundle for
+// system id 0 so that the matching of updates stays reachable after that.
 #include "FuzzSupport.h"
 
+#include "api/QRMFuzzHooks.h"
+
+#include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <string>
 #include <vector>
 
 using namespace qrmfuzz;
@@ -25,18 +31,20 @@ using namespace qrmfuzz;
 namespace {
 
 ScratchFile* gInventory = nullptr;
+ScratchFile* gFixedInventory = nullptr;
 
-// What has piled up in the process-wide inventory store, for the log.
-void ReportGrowth()
+// The inventory store as at load time (and, for half the inputs, filled by
+// the fixed inventory); the fixed catalog still held.
+void StartInput(QRMKitAPI& api, bool withFixedInventory)
 {
+    qrm::fuzzing::ResetInventoryStore();
     std::vector<QRMIDevice*> devices;
-    std::vector<QRMOperatingSystem> oses;
-    std::vector<QRMISystem> systems;
-    QRMKitAPI::Instance()->GetInventory(devices);
-    QRMKitAPI::Instance()->GetInventoryOperatingSystems(oses);
-    QRMKitAPI::Instance()->GetInventorySystems(systems);
-    std::fprintf(stderr, "fuzz_inventory: %zu devices, %zu operating systems and %zu systems held at exit\n",
-                 devices.size(), oses.size(), systems.size());
+    Check(!api.IsInventoryParsed() && api.GetInventory(devices) == QRM_KIT_FAILURE && devices.empty(),
+          "ResetInventoryStore: the inventory store is not as at load time");
+    Check(api.IsCatalogParsed(), "the fixed catalog is no longer held");
+    if (withFixedInventory) {
+        Check(api.ParseInventory(gFixedInventory->File()) == QRM_KIT_SUCCESS, "the fixed inventory does not parse");
+    }
 }
 
 }  // namespace
@@ -46,19 +54,25 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
     StdoutWatch::Install();
     static ScratchFile inventory("inventory");
     gInventory = &inventory;
+    // Written once, read again for every other input.
+    static ScratchFile fixedInventory("fixed-inventory");
+    fixedInventory.Write(std::string(kFixedInventory));
+    gFixedInventory = &fixedInventory;
 
     ScratchFile catalog("catalog");
     catalog.Write(std::string(kFixedCatalog));
     QRMKitAPI* api = QRMKitAPI::Instance();
     Check(api->Parse(catalog.File()) == QRM_KIT_SUCCESS, "the fixed catalog does not parse");
     Check(!api->IsInventoryParsed(), "the inventory store is parsed before any inventory was read");
-    std::atexit(ReportGrowth);
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     QRMKitAPI* api = QRMKitAPI::Instance();
+    StartInput(*api, size % 2 == 1);
+    std::vector<QRMIDevice*> before;
+    api->GetInventory(before);
     gInventory->Write(data, size);
 
     const bool parsedBefore = api->IsInventoryParsed();
@@ -94,17 +108,22 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
           "GetInventory: result does not follow the parsed flag");
     Check(devices.front() == nullptr && (parsed || devices.size() == 1),
           "GetInventory: the caller's entries were changed");
-    // Only what this input added: the rest was walked and checked when it
-    // came, and neither it nor the catalog has changed since.
-    static std::size_t known = 0;
-    Check(devices.size() - 1 >= known, "GetInventory: fewer devices than before, although nothing empties the store");
-    for (std::size_t i = 1 + known; i < devices.size(); ++i) {
+    // A read adds to the store: what was stored before stays, in order.
+    Check(devices.size() - 1 >= before.size() && std::equal(before.begin(), before.end(), devices.begin() + 1),
+          "GetInventory: a read removed or reordered stored devices");
+    // Only what this input added (the fixed inventory is walked when it is
+    // itself the input: it is a seed of the corpus).
+    for (std::size_t i = 1 + before.size(); i < devices.size(); ++i) {
         h += Walk(*devices[i]);
     }
     Consume(h);
 
-    CheckApplicableUpdates(*api, known);
-    known = devices.size() - 1;
+    // Every stored device: a second system changes the applicable bundle,
+    // and so the answer for the devices stored before.
+    CheckApplicableUpdates(*api);
     Check(StdoutWatch::TakeMessages() == 0, "the inventory queries printed a message");
+
+    // Nothing is left for the next input: the heap is as the input found it.
+    qrm::fuzzing::ResetInventoryStore();
     return 0;
 }
