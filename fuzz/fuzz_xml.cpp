@@ -15,6 +15,7 @@
 #include <libxml/parserInternals.h>
 #include <libxml/xmlerror.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -40,6 +41,13 @@ struct LibxmlView {
     // or libxml2 refused the document), and the one the first bytes show.
     std::string declaredEncoding;
     xmlCharEncoding detectedEncoding = XML_CHAR_ENCODING_NONE;
+    // The document starts with the UTF-8 byte-order mark.
+    bool utf8Mark = false;
+    // The document holds a byte outside ASCII.
+    bool nonAscii = false;
+    // The document holds a NUL character (a NUL byte, or a NUL code unit in
+    // UTF-16).
+    bool nul = false;
 };
 
 // The document being parsed; the callbacks below report into it.
@@ -78,6 +86,15 @@ LibxmlView ParseWithLibxml(const uint8_t* data, std::size_t size)
     if (size >= 4) {
         view.detectedEncoding = xmlDetectCharEncoding(data, static_cast<int>(size));
     }
+    if (view.detectedEncoding == XML_CHAR_ENCODING_UTF16LE || view.detectedEncoding == XML_CHAR_ENCODING_UTF16BE) {
+        for (std::size_t i = 0; i + 1 < size && !view.nul; i += 2) {
+            view.nul = data[i] == 0 && data[i + 1] == 0;
+        }
+    } else {
+        view.nul = std::memchr(data, 0, size) != nullptr;
+    }
+    view.nonAscii = std::find_if(data, data + size, [](uint8_t byte) { return byte >= 0x80; }) != data + size;
+    view.utf8Mark = size >= 3 && data[0] == 0xEF && data[1] == 0xBB && data[2] == 0xBF;
     std::unique_ptr<xmlParserCtxt, void (*)(xmlParserCtxtPtr)> parser(xmlNewParserCtxt(), xmlFreeParserCtxt);
     Check(parser != nullptr, "libxml2: no parser context");
     // The context's own handler, which it keeps when it is reset for reading.
@@ -102,7 +119,8 @@ LibxmlView ParseWithLibxml(const uint8_t* data, std::size_t size)
 // them (in any case).
 bool IsDecodedEncoding(const std::string& name)
 {
-    for (const char* known : {"UTF-8", "UTF-16", "UTF-16LE", "UTF-16BE", "ISO-8859-1", "US-ASCII"}) {
+    for (const char* known : {"UTF-8", "UTF8", "UTF-16", "UTF16", "UTF-16LE", "UTF-16BE", "ISO-8859-1", "ISO_8859-1",
+                              "ISO8859-1", "LATIN1", "ISO-LATIN-1", "L1", "US-ASCII", "ASCII"}) {
         if (name.size() == std::strlen(known) && strncasecmp(name.c_str(), known, name.size()) == 0) {
             return true;
         }
@@ -122,10 +140,34 @@ const char* ExpectedRefusal(const LibxmlView& view)
     if (view.referencesDtdEntity) {
         return "it refers to an entity that only a DTD can declare";
     }
+    // NUL is no character XML allows; libxml2 takes a NUL byte after the
+    // root element for the end of the document.
+    if (view.nul) {
+        return "it holds a NUL character";
+    }
+    // A document declared US-ASCII holds only ASCII; libxml2 takes bytes
+    // that it cannot decode after the root element for the end of the
+    // document.
+    if ((strcasecmp(view.declaredEncoding.c_str(), "US-ASCII") == 0 ||
+         strcasecmp(view.declaredEncoding.c_str(), "ASCII") == 0) &&
+        view.nonAscii) {
+        return "it is declared US-ASCII and holds a byte outside ASCII";
+    }
     // The library decodes UTF-8, UTF-16 (either byte order), ISO-8859-1 and
     // US-ASCII only; libxml2 decodes many more.
     if (!view.declaredEncoding.empty() && !IsDecodedEncoding(view.declaredEncoding)) {
         return "its XML declaration names an encoding that the library does not decode";
+    }
+    // The library refuses a declaration that names an encoding other than
+    // the one the byte-order mark (or the UTF-16 first bytes) shows; libxml2
+    // keeps the encoding it detected and ignores the declaration.
+    const std::string& declared = view.declaredEncoding;
+    const bool utf16 =
+        view.detectedEncoding == XML_CHAR_ENCODING_UTF16LE || view.detectedEncoding == XML_CHAR_ENCODING_UTF16BE;
+    const bool named16 = strncasecmp(declared.c_str(), "UTF-16", 6) == 0 || strcasecmp(declared.c_str(), "UTF16") == 0;
+    const bool named8 = strcasecmp(declared.c_str(), "UTF-8") == 0 || strcasecmp(declared.c_str(), "UTF8") == 0;
+    if (!declared.empty() && ((utf16 && !named16) || (view.utf8Mark && !named8))) {
+        return "its XML declaration names an encoding other than the one its first bytes show";
     }
     switch (view.detectedEncoding) {
     case XML_CHAR_ENCODING_UCS4LE:

@@ -219,7 +219,7 @@ bool ReadDeclaration(const char* text, std::size_t size, std::size_t at, Declara
     const bool versionRead = reader.Value(version, [](unsigned char c, std::size_t i) {
         return i == 0 ? c == '1' : i == 1 ? c == '.' : IsDigit(c);
     });
-    if (!versionRead || version.size() < 3) {
+    if (!versionRead || version.size() < 2) {  // "1." too, as conforming parsers read it
         return fail("the XML declaration's version is not 1.0 (or 1.x)");
     }
     bool blank = reader.SkipBlanks();
@@ -631,79 +631,308 @@ private:
         return Fail(at, "SYSTEM or PUBLIC expected");
     }
 
+    // Takes `word` at `at` and moves past it.
+    bool Take(std::size_t& at, std::string_view word)
+    {
+        if (!Follows(at, word)) {
+            return false;
+        }
+        at += word.size();
+        return true;
+    }
+
+    // A name at `at`; moves past it.
+    bool Name(std::size_t& at, const char* what)
+    {
+        const std::size_t end = NameEnd(at);
+        if (end == at) {
+            return Fail(at, what);
+        }
+        at = end;
+        return true;
+    }
+
+    // A name token (name characters, any first) at `at`; moves past it.
+    bool NameToken(std::size_t& at)
+    {
+        const std::size_t start = at;
+        while (at < mSize) {
+            std::uint32_t c = 0;
+            const std::size_t length = DecodeUtf8(mBytes + at, mSize - at, c);
+            if (length == 0 || !IsNameChar(c)) {
+                break;
+            }
+            at += length;
+        }
+        return at > start || Fail(start, "a name token expected in an attribute-list declaration");
+    }
+
+    // A quoted literal at `at` whose references must be well formed: an
+    // entity value ('%' refused: parameter entities are never expanded) or
+    // an attribute's default value ('<' refused). Moves past it.
+    bool CheckedLiteral(std::size_t& at, bool entityValue)
+    {
+        const unsigned char quote = At(at);
+        if (quote != '"' && quote != '\'') {
+            return Fail(at, "a quoted value expected in the document type declaration");
+        }
+        std::size_t i = at + 1;
+        while (i < mSize && mBytes[i] != quote) {
+            if (mBytes[i] == '&') {
+                const std::size_t end = NameEnd(i + 1);
+                if (!entityValue || At(i + 1) == '#' || end == i + 1 || At(end) != ';') {
+                    if (!Reference(i)) {
+                        return false;
+                    }
+                } else {
+                    i = end + 1;  // expanded only where it is used, which is refused
+                }
+            } else if (entityValue && mBytes[i] == '%') {
+                return Fail(i, "a parameter-entity reference (entities a document declares are never expanded)");
+            } else if (!entityValue && mBytes[i] == '<') {
+                return Fail(i, "'<' in an attribute's default value");
+            } else {
+                ++i;
+            }
+        }
+        if (i >= mSize) {
+            return Fail(at, "a literal that does not end");
+        }
+        at = i + 1;
+        return true;
+    }
+
+    // One of ? * + after a content particle, if there.
+    void Occurrence(std::size_t& at)
+    {
+        if (At(at) == '?' || At(at) == '*' || At(at) == '+') {
+            ++at;
+        }
+    }
+
+    // A content particle, choice or sequence of an element declaration:
+    // a name or a parenthesised list joined by all '|' or all ','.
+    bool ContentParticle(std::size_t& at, int depth)
+    {
+        if (depth > 1000) {
+            return Fail(at, "content particles nested too deep");
+        }
+        if (At(at) != '(') {
+            if (!Name(at, "a name or '(' expected in an element declaration")) {
+                return false;
+            }
+            Occurrence(at);
+            return true;
+        }
+        ++at;
+        Blanks(at);
+        if (!ContentParticle(at, depth + 1)) {
+            return false;
+        }
+        unsigned char joint = 0;
+        for (;;) {
+            Blanks(at);
+            const unsigned char c = At(at);
+            if (c == ')') {
+                ++at;
+                break;
+            }
+            if ((c != '|' && c != ',') || (joint != 0 && c != joint)) {
+                return Fail(at, "'|' or ',' (the same throughout a list) or ')' expected in an element declaration");
+            }
+            joint = c;
+            ++at;
+            Blanks(at);
+            if (!ContentParticle(at, depth + 1)) {
+                return false;
+            }
+        }
+        Occurrence(at);
+        return true;
+    }
+
+    // The content of an element declaration: EMPTY, ANY, mixed content or
+    // children.
+    bool ContentSpec(std::size_t& at)
+    {
+        if (Take(at, "EMPTY") || Take(at, "ANY")) {
+            return true;
+        }
+        std::size_t i = at;
+        if (At(i) == '(') {
+            ++i;
+            Blanks(i);
+            if (Take(i, "#PCDATA")) {
+                bool names = false;
+                for (;;) {
+                    Blanks(i);
+                    if (At(i) == ')') {
+                        ++i;
+                        break;
+                    }
+                    if (At(i) != '|') {
+                        return Fail(i, "'|' or ')' expected in mixed content");
+                    }
+                    ++i;
+                    Blanks(i);
+                    if (!Name(i, "a name expected in mixed content")) {
+                        return false;
+                    }
+                    names = true;
+                }
+                if (At(i) == '*') {
+                    ++i;
+                } else if (names) {
+                    return Fail(i, "\")*\" expected after mixed content with names");
+                }
+                at = i;
+                return true;
+            }
+        } else {
+            return Fail(at, "EMPTY, ANY or '(' expected in an element declaration");
+        }
+        return ContentParticle(at, 0);
+    }
+
+    // The attribute definitions of an attribute-list declaration, up to
+    // its '>'.
+    bool AttributeDefinitions(std::size_t& at)
+    {
+        for (;;) {
+            const bool blank = Blanks(at);
+            if (At(at) == '>') {
+                return true;
+            }
+            if (!blank) {
+                return Fail(at, "a blank expected before an attribute definition");
+            }
+            if (!Name(at, "an attribute name expected in an attribute-list declaration")) {
+                return false;
+            }
+            if (!Blanks(at)) {
+                return Fail(at, "a blank expected after the attribute's name");
+            }
+            // The type.
+            const bool notation = Take(at, "NOTATION");
+            if (notation && !Blanks(at)) {
+                return Fail(at, "a blank expected after NOTATION");
+            }
+            if (notation || At(at) == '(') {
+                if (At(at) != '(') {
+                    return Fail(at, "'(' expected after NOTATION");
+                }
+                do {
+                    ++at;
+                    Blanks(at);
+                    if (!(notation ? Name(at, "a notation name expected") : NameToken(at))) {
+                        return false;
+                    }
+                    Blanks(at);
+                } while (At(at) == '|');
+                if (At(at) != ')') {
+                    return Fail(at, "')' expected at the end of an enumeration");
+                }
+                ++at;
+            } else {
+                bool typed = false;
+                for (const char* type :
+                     {"CDATA", "IDREFS", "IDREF", "ID", "ENTITIES", "ENTITY", "NMTOKENS", "NMTOKEN"}) {
+                    if (Take(at, type)) {
+                        typed = true;
+                        break;
+                    }
+                }
+                if (!typed) {
+                    return Fail(at, "an attribute type expected in an attribute-list declaration");
+                }
+            }
+            if (!Blanks(at)) {
+                return Fail(at, "a blank expected after the attribute's type");
+            }
+            // The default.
+            if (Take(at, "#REQUIRED") || Take(at, "#IMPLIED")) {
+                continue;
+            }
+            if (Take(at, "#FIXED") && !Blanks(at)) {
+                return Fail(at, "a blank expected after #FIXED");
+            }
+            if (!CheckedLiteral(at, false)) {
+                return false;
+            }
+        }
+    }
+
     // A markup declaration of the internal subset at `at` ("<!" and a
-    // keyword): its keyword, a blank, a name, then anything up to the '>'
-    // outside quoted literals. Entity declarations are read in full.
+    // keyword): an element, attribute-list, entity or notation declaration,
+    // each by its grammar. Moves `at` past it.
     bool MarkupDeclaration(std::size_t& at)
     {
         std::size_t i = at + 2;
-        const bool entity = Follows(i, "ENTITY");
-        if (entity) {
-            i += 6;
-        } else if (Follows(i, "ELEMENT") || Follows(i, "NOTATION")) {
-            i += Follows(i, "ELEMENT") ? 7 : 8;
-        } else if (Follows(i, "ATTLIST")) {
-            i += 7;
+        enum { kElement, kAttributes, kEntity, kNotation } kind;
+        if (Take(i, "ELEMENT")) {
+            kind = kElement;
+        } else if (Take(i, "ATTLIST")) {
+            kind = kAttributes;
+        } else if (Take(i, "ENTITY")) {
+            kind = kEntity;
+        } else if (Take(i, "NOTATION")) {
+            kind = kNotation;
         } else {
             return Fail(at, "an unknown declaration in the document type declaration");
         }
         if (!Blanks(i)) {
             return Fail(i, "a blank expected in a declaration");
         }
-        if (entity && At(i) == '%') {
+        bool parameter = false;
+        if (kind == kEntity && At(i) == '%') {
             ++i;
+            parameter = true;
             if (!Blanks(i)) {
                 return Fail(i, "a blank expected after '%' in an entity declaration");
             }
         }
-        const std::size_t name = i;
-        i = NameEnd(i);
-        if (i == name) {
-            return Fail(i, "a name expected in a declaration");
+        if (!Name(i, "a name expected in a declaration")) {
+            return false;
         }
-        if (entity) {
-            if (!Blanks(i)) {
-                return Fail(i, "a blank expected after the entity's name");
+        if (kind == kAttributes) {
+            if (!AttributeDefinitions(i)) {
+                return false;
             }
-            if (At(i) == '"' || At(i) == '\'') {
-                if (!Literal(i)) {
+        } else {
+            if (!Blanks(i)) {
+                return Fail(i, "a blank expected after the declared name");
+            }
+            if (kind == kElement) {
+                if (!ContentSpec(i)) {
+                    return false;
+                }
+            } else if (kind == kNotation) {
+                if (!ExternalId(i, true)) {
+                    return false;
+                }
+            } else if (At(i) == '"' || At(i) == '\'') {
+                if (!CheckedLiteral(i, true)) {
                     return false;
                 }
             } else if (!ExternalId(i, false)) {
                 return false;
-            } else {
+            } else if (!parameter) {
                 const std::size_t before = i;
-                if (Blanks(i) && Follows(i, "NDATA")) {
-                    i += 5;
-                    const std::size_t notation = i;
-                    if (!Blanks(i) || NameEnd(i) == i) {
-                        return Fail(notation, "a notation name expected after NDATA");
+                if (Blanks(i) && Take(i, "NDATA")) {
+                    if (!Blanks(i)) {
+                        return Fail(i, "a blank expected after NDATA");
                     }
-                    i = NameEnd(i);
+                    if (!Name(i, "a notation name expected after NDATA")) {
+                        return false;
+                    }
                 } else {
                     i = before;
                 }
             }
             Blanks(i);
-            if (At(i) != '>') {
-                return Fail(i, "'>' expected at the end of an entity declaration");
-            }
-            at = i + 1;
-            return true;
         }
-        while (i < mSize && mBytes[i] != '>') {
-            if (mBytes[i] == '"' || mBytes[i] == '\'') {
-                if (!Literal(i)) {
-                    return false;
-                }
-            } else if (mBytes[i] == '<') {
-                return Fail(i, "'<' inside a declaration");
-            } else {
-                ++i;
-            }
-        }
-        if (i >= mSize) {
-            return Fail(at, "a declaration that does not end");
+        if (At(i) != '>') {
+            return Fail(i, "'>' expected at the end of a declaration");
         }
         at = i + 1;
         return true;
@@ -716,9 +945,8 @@ private:
     bool DocumentType(std::size_t& at)
     {
         std::size_t i = at + 9;
-        if (!Blanks(i)) {
-            return Fail(i, "a blank expected after DOCTYPE");
-        }
+        Blanks(i);  // required by the grammar, not by conforming parsers
+
         const std::size_t name = i;
         i = NameEnd(i);
         if (i == name) {
@@ -1136,8 +1364,17 @@ bool DecodeXmlText(XmlBytes& bytes, XmlFault& fault)
     } else if (StartsWith(p, size, {0x00, 0x3C, 0x00, 0x3F})) {
         encoding = Encoding::Utf16BE;
     }
-    if (encoding != Encoding::Utf8 && !ConvertUtf16(bytes, encoding, bom, fault)) {
-        return false;
+    if (encoding != Encoding::Utf8) {
+        if (!ConvertUtf16(bytes, encoding, bom, fault)) {
+            return false;
+        }
+        // U+FEFF after the byte-order mark is a character before the root,
+        // not a second mark.
+        const unsigned char* text = reinterpret_cast<const unsigned char*>(bytes.Data());
+        if (StartsWith(text, bytes.Size(), {0xEF, 0xBB, 0xBF})) {
+            fault.what = "text before the root element";
+            return false;
+        }
     }
     const char* text = bytes.Data();
     const std::size_t start = encoding == Encoding::Utf8 ? bom : 0;
