@@ -228,13 +228,14 @@ struct Labelled {
     std::string xml;
 };
 
-struct CatalogField {
+// A text of the small catalog or inventory that a file can set.
+template <class Texts>
+struct TextField {
     const char* name;
-    std::string CatalogTexts::*text;
+    std::string Texts::*text;
 };
 
-// Every text of the small catalog that a file can set.
-const std::vector<CatalogField> kCatalogFields = {
+const std::vector<TextField<CatalogTexts>> kCatalogFields = {
     {"baseLocation", &CatalogTexts::baseLocation},
     {"releaseID", &CatalogTexts::releaseID},
     {"version", &CatalogTexts::version},
@@ -246,34 +247,7 @@ const std::vector<CatalogField> kCatalogFields = {
     {"collectorPath", &CatalogTexts::collectorPath},
 };
 
-// The field of the small catalog named `name`.
-const CatalogField& CatalogFieldNamed(const std::string& name)
-{
-    for (const CatalogField& field : kCatalogFields) {
-        if (name == field.name) {
-            return field;
-        }
-    }
-    ADD_FAILURE() << "no catalog field " << name;
-    return kCatalogFields.front();
-}
-
-// The small catalog with `doctype` and the field named `name` set to `text`.
-Labelled CatalogWith(const std::string& doctype, const std::string& name, const std::string& text)
-{
-    CatalogTexts texts;
-    texts.doctype = doctype;
-    texts.*CatalogFieldNamed(name).text = text;
-    return {name + "=" + text, Catalog(texts)};
-}
-
-struct InventoryField {
-    const char* name;
-    std::string InventoryTexts::*text;
-};
-
-// Every text of the small inventory that a file can set.
-const std::vector<InventoryField> kInventoryFields = {
+const std::vector<TextField<InventoryTexts>> kInventoryFields = {
     {"lang", &InventoryTexts::lang},
     {"schemaVersion", &InventoryTexts::schemaVersion},
     {"osVendor", &InventoryTexts::osVendor},
@@ -284,26 +258,32 @@ const std::vector<InventoryField> kInventoryFields = {
     {"applicationDisplay", &InventoryTexts::applicationDisplay},
 };
 
-// The field of the small inventory named `name`.
-const InventoryField& InventoryFieldNamed(const std::string& name)
+// The document `build` writes with `doctype` and the field named `name` set
+// to `text`.
+template <class Texts>
+Labelled DocumentWith(const std::vector<TextField<Texts>>& fields, std::string (*build)(const Texts&),
+                      const std::string& doctype, const std::string& name, const std::string& text)
 {
-    for (const InventoryField& field : kInventoryFields) {
-        if (name == field.name) {
-            return field;
-        }
+    Texts texts;
+    texts.doctype = doctype;
+    const auto field = std::find_if(fields.begin(), fields.end(),
+                                    [&](const TextField<Texts>& candidate) { return name == candidate.name; });
+    if (field == fields.end()) {
+        ADD_FAILURE() << "no field " << name;
+        return {name, build(texts)};
     }
-    ADD_FAILURE() << "no inventory field " << name;
-    return kInventoryFields.front();
+    texts.*(field->text) = text;
+    return {name + "=" + text, build(texts)};
 }
 
-// The small inventory with `doctype` and the field named `name` set to
-// `text`.
+Labelled CatalogWith(const std::string& doctype, const std::string& name, const std::string& text)
+{
+    return DocumentWith(kCatalogFields, Catalog, doctype, name, text);
+}
+
 Labelled InventoryWith(const std::string& doctype, const std::string& name, const std::string& text)
 {
-    InventoryTexts texts;
-    texts.doctype = doctype;
-    texts.*InventoryFieldNamed(name).text = text;
-    return {name + "=" + text, Inventory(texts)};
+    return DocumentWith(kInventoryFields, Inventory, doctype, name, text);
 }
 
 // Reads each document after the example catalog: each read fails and leaves
@@ -541,7 +521,7 @@ TEST(HostileCatalogFile, InvalidUTF8InAnyFieldFailsTheWholeDocument)
 {
     TempDir dir;
     std::vector<Labelled> documents;
-    for (const CatalogField& field : kCatalogFields) {
+    for (const TextField<CatalogTexts>& field : kCatalogFields) {
         for (const std::string& bytes : kInvalidUTF8) {
             documents.push_back(CatalogWith("", field.name, "a" + bytes + "z"));
         }
@@ -714,7 +694,7 @@ TEST(HostileCatalogFile, UndefinedEntityReferencesFailTheDocument)
 {
     TempDir dir;
     std::vector<Labelled> documents;
-    for (const CatalogField& field : kCatalogFields) {
+    for (const TextField<CatalogTexts>& field : kCatalogFields) {
         documents.push_back(CatalogWith("", field.name, "a&undefined;b"));
     }
     // Next to a predefined one, a name of HTML, predefined names in other
@@ -945,7 +925,7 @@ TEST(HostileInventoryFile, InvalidUTF8InAnyFieldOrElementNameFailsTheWholeDocume
 {
     TempDir dir;
     std::vector<Labelled> documents;
-    for (const InventoryField& field : kInventoryFields) {
+    for (const TextField<InventoryTexts>& field : kInventoryFields) {
         for (const std::string& bytes : kInvalidUTF8) {
             documents.push_back(InventoryWith("", field.name, "a" + bytes + "z"));
         }
@@ -1075,7 +1055,7 @@ TEST(HostileInventoryFile, UndefinedEntityReferencesFailTheDocument)
 {
     TempDir dir;
     std::vector<Labelled> documents;
-    for (const InventoryField& field : kInventoryFields) {
+    for (const TextField<InventoryTexts>& field : kInventoryFields) {
         documents.push_back(InventoryWith("", field.name, "a&undefined;b"));
     }
     documents.push_back(InventoryWith("", "lang", "&lang;"));

@@ -444,6 +444,9 @@ bool PlainAscii(const char* p)
 }
 #endif
 
+const char* const kParameterEntityReference =
+    "a parameter-entity reference (entities a document declares are never expanded)";
+
 class Checker {
 public:
     Checker(const char* text, std::size_t size, XmlFault& fault)
@@ -685,6 +688,16 @@ private:
         return Fail(at, "SYSTEM or PUBLIC expected");
     }
 
+    // The '>' that ends a declaration at `i`; moves `at` past it.
+    bool Close(std::size_t i, std::size_t& at, const char* what)
+    {
+        if (At(i) != '>') {
+            return Fail(i, what);
+        }
+        at = i + 1;
+        return true;
+    }
+
     // Takes `word` at `at` and moves past it.
     bool Take(std::size_t& at, std::string_view word)
     {
@@ -742,7 +755,7 @@ private:
                     i = end + 1;  // expanded only where it is used, which is refused
                 }
             } else if (entityValue && mBytes[i] == '%') {
-                return Fail(i, "a parameter-entity reference (entities a document declares are never expanded)");
+                return Fail(i, kParameterEntityReference);
             } else if (!entityValue && mBytes[i] == '<') {
                 return Fail(i, "'<' in an attribute's default value");
             } else {
@@ -985,11 +998,7 @@ private:
             }
             Blanks(i);
         }
-        if (At(i) != '>') {
-            return Fail(i, "'>' expected at the end of a declaration");
-        }
-        at = i + 1;
-        return true;
+        return Close(i, at, "'>' expected at the end of a declaration");
     }
 
     // A document type declaration at `at` ("<!DOCTYPE"): a name, an
@@ -1000,11 +1009,8 @@ private:
     {
         std::size_t i = at + 9;
         Blanks(i);  // required by the grammar, not by conforming parsers
-
-        const std::size_t name = i;
-        i = NameEnd(i);
-        if (i == name) {
-            return Fail(i, "a name expected in the document type declaration");
+        if (!Name(i, "a name expected in the document type declaration")) {
+            return false;
         }
         std::size_t before = i;
         if (Blanks(i) && (Follows(i, "SYSTEM") || Follows(i, "PUBLIC"))) {
@@ -1039,18 +1045,14 @@ private:
                         return false;
                     }
                 } else if (mBytes[i] == '%') {
-                    return Fail(i, "a parameter-entity reference (entities a document declares are never expanded)");
+                    return Fail(i, kParameterEntityReference);
                 } else {
                     return Fail(i, "something other than a declaration in the internal subset");
                 }
             }
             Blanks(i);
         }
-        if (At(i) != '>') {
-            return Fail(i, "'>' expected at the end of the document type declaration");
-        }
-        at = i + 1;
-        return true;
+        return Close(i, at, "'>' expected at the end of the document type declaration");
     }
 
     // A reference at `at` ('&'): a character reference to a character XML
