@@ -1,12 +1,13 @@
 #include "base/VELXMLWellFormed.h"
 
-#include <pugixml.hpp>
-
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include <sys/mman.h>
 
 #if defined(__SSE2__)
 #include <immintrin.h>
@@ -253,18 +254,17 @@ bool ReadDeclaration(const char* text, std::size_t size, std::size_t at, Declara
 // ---------------------------------------------------------------------------
 // Decoding
 
-void* Allocate(std::size_t size) { return pugi::get_memory_allocation_function()(size > 0 ? size : 1); }
-
 // UTF-16 to UTF-8, refusing unpaired surrogates and a dangling byte.
 bool ConvertUtf16(XmlBytes& bytes, Encoding encoding, std::size_t skip, XmlFault& fault)
 {
     const unsigned char* in = reinterpret_cast<const unsigned char*>(bytes.Data());
     const std::size_t units = (bytes.Size() - skip) / 2;
     // Each code unit gives at most three bytes (a pair gives four).
-    char* out = static_cast<char*>(Allocate(units * 3));
-    if (out == nullptr) {
+    XmlBytes converted;
+    if (!converted.Allocate(units * 3)) {
         return false;
     }
+    char* const out = converted.Data();
     char* at = out;
     const bool little = encoding == Encoding::Utf16LE;
     auto unit = [&](std::size_t i) -> std::uint32_t {
@@ -279,15 +279,14 @@ bool ConvertUtf16(XmlBytes& bytes, Encoding encoding, std::size_t skip, XmlFault
         } else if (c >= 0xD800 && c <= 0xDFFF) {
             fault.what = "a UTF-16 surrogate without its pair";
             fault.offset = static_cast<std::size_t>(at - out);
-            pugi::get_memory_deallocation_function()(out);
             return false;
         }
         AppendUtf8(c, at);
     }
     // A dangling byte after the last code unit is no character: it is left
     // out, as conforming parsers do.
-    const std::size_t size = static_cast<std::size_t>(at - out);
-    bytes.Reset(out, size);
+    converted.Shrink(static_cast<std::size_t>(at - out));
+    bytes.Swap(converted);
     return true;
 }
 
@@ -301,15 +300,15 @@ bool ConvertLatin1(XmlBytes& bytes)
     if (size == bytes.Size()) {
         return true;
     }
-    char* out = static_cast<char*>(Allocate(size));
-    if (out == nullptr) {
+    XmlBytes converted;
+    if (!converted.Allocate(size)) {
         return false;
     }
-    char* at = out;
+    char* at = converted.Data();
     for (std::size_t i = 0; i < bytes.Size(); ++i) {
         AppendUtf8(in[i], at);
     }
-    bytes.Reset(out, size);
+    bytes.Swap(converted);
     return true;
 }
 
@@ -1382,23 +1381,35 @@ private:
 
 }  // namespace
 
-XmlBytes::~XmlBytes() { Reset(nullptr, 0); }
-
-void XmlBytes::Reset(void* data, std::size_t size)
+XmlBytes::~XmlBytes()
 {
-    if (mData != nullptr && data != mData) {
-        pugi::get_memory_deallocation_function()(mData);
+    if (mData != nullptr) {
+        ::munmap(mData, mMapped);
     }
-    mData = data;
-    mSize = size;
 }
 
-void* XmlBytes::Release()
+bool XmlBytes::Allocate(std::size_t size)
 {
-    void* data = mData;
-    mData = nullptr;
-    mSize = 0;
-    return data;
+    XmlBytes empty;
+    Swap(empty);
+    const std::size_t mapped = size > 0 ? size : 1;
+    void* data = ::mmap(nullptr, mapped, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
+    if (data == MAP_FAILED) {
+        return false;
+    }
+    mData = static_cast<char*>(data);
+    mSize = size;
+    mMapped = mapped;
+    return true;
+}
+
+void XmlBytes::Shrink(std::size_t size) { mSize = std::min(size, mSize); }
+
+void XmlBytes::Swap(XmlBytes& other)
+{
+    std::swap(mData, other.mData);
+    std::swap(mSize, other.mSize);
+    std::swap(mMapped, other.mMapped);
 }
 
 bool DecodeXmlText(XmlBytes& bytes, XmlFault& fault)
