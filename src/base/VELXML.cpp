@@ -16,10 +16,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-// The parsed document and its text, which the parser reads in place and
-// its nodes point into: the text outlives them.
 struct VELXMLDocument::Impl {
-    qrm::detail::XmlBytes text;
     pugi::xml_document document;
 };
 
@@ -96,8 +93,8 @@ namespace {
 using qrm::detail::XmlBytes;
 using qrm::detail::XmlFault;
 
-// Reads a whole regular file into memory of its own, where the parser
-// later reads it in place.
+// Reads a whole regular file into memory obtained from the XML parser's own
+// allocator, so that the parser can take the buffer over and parse in place.
 pugi::xml_parse_status ReadFile(const std::string& path, XmlBytes& bytes)
 {
     if (path.empty() || path.find('\0') != std::string::npos) {
@@ -113,13 +110,15 @@ pugi::xml_parse_status ReadFile(const std::string& path, XmlBytes& bytes)
         return pugi::status_io_error;
     }
     std::size_t length = static_cast<std::size_t>(info.st_size);
-    if (!bytes.Allocate(length)) {
+    void* buffer = pugi::get_memory_allocation_function()(length > 0 ? length : 1);
+    if (buffer == nullptr) {
         ::close(fd);
         return pugi::status_out_of_memory;
     }
+    bytes.Reset(buffer, length);
     std::size_t done = 0;
     while (done < length) {
-        ssize_t got = ::read(fd, bytes.Data() + done, length - done);
+        ssize_t got = ::read(fd, static_cast<char*>(buffer) + done, length - done);
         if (got <= 0) {
             break;
         }
@@ -210,10 +209,9 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
         return nullptr;
     }
     std::unique_ptr<VELXMLDocument> document(new VELXMLDocument);
-    VELXMLDocument::Impl& impl = *document->mImpl;
-    impl.text.Swap(bytes);
-    pugi::xml_parse_result result =
-        impl.document.load_buffer_inplace(impl.text.Data(), impl.text.Size(), pugi::parse_default, pugi::encoding_utf8);
+    const std::size_t size = bytes.Size();
+    pugi::xml_parse_result result = document->mImpl->document.load_buffer_inplace_own(
+        bytes.Release(), size, pugi::parse_default, pugi::encoding_utf8);
     if (!result) {
         // The parser changed the text in place: the text is read afresh to
         // say where it stopped.

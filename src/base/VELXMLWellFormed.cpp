@@ -1,13 +1,12 @@
 #include "base/VELXMLWellFormed.h"
 
+#include <pugixml.hpp>
+
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-#include <utility>
 #include <vector>
-
-#include <sys/mman.h>
 
 #if defined(__SSE2__)
 #include <immintrin.h>
@@ -254,17 +253,18 @@ bool ReadDeclaration(const char* text, std::size_t size, std::size_t at, Declara
 // ---------------------------------------------------------------------------
 // Decoding
 
+void* Allocate(std::size_t size) { return pugi::get_memory_allocation_function()(size > 0 ? size : 1); }
+
 // UTF-16 to UTF-8, refusing unpaired surrogates and a dangling byte.
 bool ConvertUtf16(XmlBytes& bytes, Encoding encoding, std::size_t skip, XmlFault& fault)
 {
     const unsigned char* in = reinterpret_cast<const unsigned char*>(bytes.Data());
     const std::size_t units = (bytes.Size() - skip) / 2;
     // Each code unit gives at most three bytes (a pair gives four).
-    XmlBytes converted;
-    if (!converted.Allocate(units * 3)) {
+    char* out = static_cast<char*>(Allocate(units * 3));
+    if (out == nullptr) {
         return false;
     }
-    char* const out = converted.Data();
     char* at = out;
     const bool little = encoding == Encoding::Utf16LE;
     auto unit = [&](std::size_t i) -> std::uint32_t {
@@ -279,14 +279,15 @@ bool ConvertUtf16(XmlBytes& bytes, Encoding encoding, std::size_t skip, XmlFault
         } else if (c >= 0xD800 && c <= 0xDFFF) {
             fault.what = "a UTF-16 surrogate without its pair";
             fault.offset = static_cast<std::size_t>(at - out);
+            pugi::get_memory_deallocation_function()(out);
             return false;
         }
         AppendUtf8(c, at);
     }
     // A dangling byte after the last code unit is no character: it is left
     // out, as conforming parsers do.
-    converted.Shrink(static_cast<std::size_t>(at - out));
-    bytes.Swap(converted);
+    const std::size_t size = static_cast<std::size_t>(at - out);
+    bytes.Reset(out, size);
     return true;
 }
 
@@ -300,15 +301,15 @@ bool ConvertLatin1(XmlBytes& bytes)
     if (size == bytes.Size()) {
         return true;
     }
-    XmlBytes converted;
-    if (!converted.Allocate(size)) {
+    char* out = static_cast<char*>(Allocate(size));
+    if (out == nullptr) {
         return false;
     }
-    char* at = converted.Data();
+    char* at = out;
     for (std::size_t i = 0; i < bytes.Size(); ++i) {
         AppendUtf8(in[i], at);
     }
-    bytes.Swap(converted);
+    bytes.Reset(out, size);
     return true;
 }
 
@@ -1381,35 +1382,23 @@ private:
 
 }  // namespace
 
-XmlBytes::~XmlBytes()
-{
-    if (mData != nullptr) {
-        ::munmap(mData, mMapped);
-    }
-}
+XmlBytes::~XmlBytes() { Reset(nullptr, 0); }
 
-bool XmlBytes::Allocate(std::size_t size)
+void XmlBytes::Reset(void* data, std::size_t size)
 {
-    XmlBytes empty;
-    Swap(empty);
-    const std::size_t mapped = size > 0 ? size : 1;
-    void* data = ::mmap(nullptr, mapped, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
-    if (data == MAP_FAILED) {
-        return false;
+    if (mData != nullptr && data != mData) {
+        pugi::get_memory_deallocation_function()(mData);
     }
-    mData = static_cast<char*>(data);
+    mData = data;
     mSize = size;
-    mMapped = mapped;
-    return true;
 }
 
-void XmlBytes::Shrink(std::size_t size) { mSize = std::min(size, mSize); }
-
-void XmlBytes::Swap(XmlBytes& other)
+void* XmlBytes::Release()
 {
-    std::swap(mData, other.mData);
-    std::swap(mSize, other.mSize);
-    std::swap(mMapped, other.mMapped);
+    void* data = mData;
+    mData = nullptr;
+    mSize = 0;
+    return data;
 }
 
 bool DecodeXmlText(XmlBytes& bytes, XmlFault& fault)

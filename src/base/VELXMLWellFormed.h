@@ -28,9 +28,8 @@ struct XmlFault {
     std::size_t offset = 0;
 };
 
-// The bytes of a document, in memory mapped for them alone (the pages are
-// made present at once, which costs less than faulting them in one by one
-// on a large file). A parsed document keeps its text in them.
+// The file's bytes, owned through the XML parser's own allocator so that the
+// parser can take them over.
 class XmlBytes {
 public:
     XmlBytes() = default;
@@ -38,19 +37,16 @@ public:
     XmlBytes(const XmlBytes&) = delete;
     XmlBytes& operator=(const XmlBytes&) = delete;
 
-    char* Data() const { return mData; }
+    char* Data() const { return static_cast<char*>(mData); }
     std::size_t Size() const { return mSize; }
-    // Frees the bytes held and holds `size` new ones (their content
-    // unset); false, holding none, when memory runs out.
-    bool Allocate(std::size_t size);
-    // Keeps the first `size` bytes (at most those allocated).
-    void Shrink(std::size_t size);
-    void Swap(XmlBytes& other);
+    // Frees the bytes held and holds `data` (from the parser's allocator).
+    void Reset(void* data, std::size_t size);
+    // Hands the bytes over to the caller, who frees them.
+    void* Release();
 
 private:
-    char* mData = nullptr;
+    void* mData = nullptr;
     std::size_t mSize = 0;
-    std::size_t mMapped = 0;
 };
 
 // Turns the file's bytes into UTF-8 text for the parser, in place or into a
