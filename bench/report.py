@@ -32,9 +32,6 @@ def main_report(path):
         else:
             ratio = "%.2f %% Parse" % (100.0 * time / parse)
         print("%-24s %12.2f %14s" % (name, time, ratio))
-    if "WellFormednessCheck" in m:
-        check = m["WellFormednessCheck"][0]
-        print("Parse with the checks / Parse without them: %.3f x" % (parse / (parse - check)))
 
 
 def memory_report(path):
