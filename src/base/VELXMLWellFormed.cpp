@@ -1143,6 +1143,13 @@ private:
     // A start tag's character that is neither in a value nor allowed there.
     bool BadInTag(std::size_t at) { return Fail(at, "a character a tag may not hold outside its attribute values"); }
 
+    // The fault of an attribute name that repeats one before it.
+    bool Twice(std::string_view name)
+    {
+        return Fail(static_cast<std::size_t>(name.data() - mText),
+                    ("an attribute given twice: " + std::string(name)).c_str());
+    }
+
     // The name of attribute `k` of the start tag at `start`, from where
     // the values open and end (mQuotes holds both): back from the value's
     // opening quote over blanks, '=' and blanks to where the name ends, and
@@ -1211,7 +1218,7 @@ private:
                               static_cast<unsigned char>(name.back()) * 3 + static_cast<unsigned char>(name.front()));
                 const std::uint64_t bit = std::uint64_t(1) << (hash % 61);
                 if ((seen & bit) != 0 && std::find(mNames.begin(), mNames.end(), name) != mNames.end()) {
-                    return Fail(static_cast<std::size_t>(name.data() - mText), "an attribute given twice");
+                    return Twice(name);
                 }
                 seen |= bit;
                 mNames.push_back(name);
@@ -1224,13 +1231,13 @@ private:
         // In document order among equal names, so that the fault is at the
         // first name that repeats one before it, as with few attributes.
         std::stable_sort(mNames.begin(), mNames.end());
-        const char* first = nullptr;
+        const std::string_view* first = nullptr;
         for (std::size_t k = 1; k < mNames.size(); ++k) {
-            if (mNames[k] == mNames[k - 1] && (first == nullptr || mNames[k].data() < first)) {
-                first = mNames[k].data();
+            if (mNames[k] == mNames[k - 1] && (first == nullptr || mNames[k].data() < first->data())) {
+                first = &mNames[k];
             }
         }
-        return first == nullptr || Fail(static_cast<std::size_t>(first - mText), "an attribute given twice");
+        return first == nullptr || Twice(*first);
     }
 
     // From the root element's '<' at `at` to the end of the text. Only the

@@ -10,9 +10,10 @@
 // document type declaration defines are never expanded, so a document that
 // refers to one is refused rather than read with the reference left as text.
 //
-// The checks run on the text before it is parsed, in one pass for the
-// characters and one pass that visits only the bytes that start or end markup
-// ('<', '>', quotes, '&', ']'), so that they cost little next to the parse.
+// The checks run on the text before it is parsed, in one pass that visits
+// only the bytes that start or end markup ('<', '>', quotes, '&', ']') and
+// reads a byte's character only where 64 bytes are not all plain ASCII, so
+// that they cost little next to the parse.
 #ifndef VEL_XML_WELL_FORMED_H
 #define VEL_XML_WELL_FORMED_H
 

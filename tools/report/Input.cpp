@@ -6,7 +6,6 @@
 
 #include <archive.h>
 #include <archive_entry.h>
-#include <pugixml.hpp>
 
 #include <fcntl.h>
 #include <sys/mman.h>
