@@ -303,11 +303,18 @@ def _worker_args(op: str, args: List[Any]) -> List[str]:
     return [sys.executable, "-m", "qrmkit._worker", op, json.dumps(encoded)]
 
 
+def _fresh_process() -> bool:
+    """Whether an isolated computation must run in a fresh interpreter rather
+    than in a child forked from this process: once the low-level layer has
+    read documents into this process's stores (a forked child would start
+    from them), and while other threads run (a forked child may start with a
+    lock one of them held, and wait for it forever)."""
+    return bool(_qrmkit._stores_touched() or _qrmkit._other_threads())
+
+
 def _compute(op: str, *args: Any) -> Dict[str, Any]:
     """The document of one isolated computation, or its error raised."""
-    if _qrmkit._stores_touched():
-        # The low-level layer has read documents into this process's stores:
-        # a forked child would start from them. A fresh interpreter does not.
+    if _fresh_process():
         done = subprocess.run(_worker_args(op, list(args)), stdout=subprocess.PIPE, env=_worker_env(), check=False)
         text = done.stdout.decode("utf-8", "replace").strip()
         if done.returncode != 0 or not text:
@@ -385,7 +392,7 @@ class Fleet(Iterator[Dict[str, Any]]):
     def __init__(self, catalog: bytes, inventories: List[bytes], bundle_type: str, jobs: int, timeout: float) -> None:
         self._process: Optional[subprocess.Popen] = None
         self._stream: Any = None
-        if _qrmkit._stores_touched():
+        if _fresh_process():
             encoded = [os.fsdecode(catalog), [os.fsdecode(i) for i in inventories], bundle_type, jobs, timeout]
             self._process = subprocess.Popen(
                 [sys.executable, "-m", "qrmkit._worker", "fleet", json.dumps(encoded)],

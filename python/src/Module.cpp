@@ -4,6 +4,8 @@
 
 #include <atomic>
 
+#include <dirent.h>
+
 namespace py = pybind11;
 
 namespace qrmpy {
@@ -28,6 +30,22 @@ bool StoresTouched() { return gStoresTouched.load(); }
 
 void MarkStoresTouched() { gStoresTouched.store(true); }
 
+bool OtherThreadsRun()
+{
+    DIR* tasks = opendir("/proc/self/task");
+    if (tasks == nullptr) {
+        return true;  // unknown: the safe answer
+    }
+    int count = 0;
+    while (const dirent* entry = readdir(tasks)) {
+        if (entry->d_name[0] != '.') {
+            ++count;
+        }
+    }
+    closedir(tasks);
+    return count != 1;
+}
+
 }  // namespace qrmpy
 
 PYBIND11_MODULE(_qrmkit, module)
@@ -36,6 +54,8 @@ PYBIND11_MODULE(_qrmkit, module)
     module.attr("library_version") = QRMKitVersion();
     module.def("_stores_touched", &qrmpy::StoresTouched,
                "Whether the low-level layer has read a document into this process's stores.");
+    module.def("_other_threads", &qrmpy::OtherThreadsRun,
+               "Whether this process runs threads besides the calling one (or their number is unknown).");
     qrmpy::DefineIsolated(module);
     py::module_ lowlevel = module.def_submodule("lowlevel", "The library's own interface.");
     qrmpy::DefineLowLevel(lowlevel);

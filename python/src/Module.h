@@ -30,6 +30,13 @@ private:
 bool StoresTouched();
 void MarkStoresTouched();
 
+// Whether the process runs other threads than the calling one. A forked copy
+// of such a process may start with a lock another thread held at the fork
+// (in the memory allocator, say) and wait for it forever, so its isolated
+// children are started as fresh processes instead. True when the number
+// cannot be read.
+bool OtherThreadsRun();
+
 void DefineIsolated(pybind11::module_& module);
 void DefineLowLevel(pybind11::module_& module);
 

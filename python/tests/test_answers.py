@@ -220,34 +220,57 @@ def test_fleet_with_an_unreadable_catalog_raises(tmp_path, generated):
         qrmkit.fleet(generated[0][1], [generated[0][1]])
 
 
-def test_answers_stay_isolated_after_the_low_level_layer_has_read_documents(tool, examples, generated):
-    catalog, inventory = generated[1]
-    expected, status = tool_updates(catalog, inventory)
-    assert status in (0, 100)
-    fleet_expected, _ = fleet_tool(catalog, [inventory, inventory])
-    script = """
-import json, sys, qrmkit
+ISOLATION_SCRIPT = """
+import json, sys, threading, qrmkit
 from qrmkit.lowlevel import QRMKitAPI
-catalog, inventory, other, forked = sys.argv[1:]
+catalog, inventory, other, mode = sys.argv[1:]
 # Another computer's inventory in this process's store: a child forked from
 # here would hold two systems, and no bundle would apply.
 QRMKitAPI.Instance().ParseInventory(other)
-if forked == "forked":
+if mode in ("forked", "threaded"):
     qrmkit._qrmkit._stores_touched = lambda: False
+if mode == "threaded":
+    stop = threading.Event()
+    threading.Thread(target=stop.wait, daemon=True).start()
 try:
     document = qrmkit.updates(catalog, inventory).document
 except qrmkit.Error as error:
     document = {"error": error.to_dict()}
 print(json.dumps({"updates": document, "fleet": list(qrmkit.fleet(catalog, [inventory, inventory]))}))
 """
-    def answer(forked):
-        done = subprocess.run([sys.executable, "-c", script, str(catalog), str(inventory),
-                               str(examples / "inventory.xml"), forked], stdout=subprocess.PIPE, check=True)
-        return json.loads(done.stdout)
 
-    isolated = answer("fresh")
+
+def isolation_answer(catalog, inventory, other, mode):
+    """The updates and fleet answers of a process whose store holds `other`:
+    "fresh" as the package runs, "forked" with the stores reported untouched
+    (so a child is forked from it), "threaded" the same with another thread
+    running."""
+    done = subprocess.run([sys.executable, "-c", ISOLATION_SCRIPT, str(catalog), str(inventory), str(other), mode],
+                          stdout=subprocess.PIPE, check=True)
+    return json.loads(done.stdout)
+
+
+def test_answers_stay_isolated_after_the_low_level_layer_has_read_documents(tool, examples, generated):
+    catalog, inventory = generated[1]
+    expected, status = tool_updates(catalog, inventory)
+    assert status in (0, 100)
+    fleet_expected, _ = fleet_tool(catalog, [inventory, inventory])
+    isolated = isolation_answer(catalog, inventory, examples / "inventory.xml", "fresh")
     assert isolated["updates"] == expected
     assert isolated["fleet"] == fleet_expected
     # What the fresh interpreter prevents: a child forked from the touched
     # process answers with the other computer's devices in its store.
-    assert answer("forked")["updates"] != expected
+    assert isolation_answer(catalog, inventory, examples / "inventory.xml", "forked")["updates"] != expected
+
+
+def test_a_process_running_other_threads_computes_answers_in_fresh_interpreters(tool, examples, generated):
+    # A forked copy of a process with threads could wait forever for a lock
+    # one of them held, so such a process is never forked for an answer:
+    # even with its stores reported untouched, the answer comes from a fresh
+    # interpreter and does not see the inventory in this process's store.
+    catalog, inventory = generated[1]
+    expected, _ = tool_updates(catalog, inventory)
+    fleet_expected, _ = fleet_tool(catalog, [inventory, inventory])
+    threaded = isolation_answer(catalog, inventory, examples / "inventory.xml", "threaded")
+    assert threaded["updates"] == expected
+    assert threaded["fleet"] == fleet_expected
