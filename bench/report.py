@@ -61,10 +61,29 @@ def scaling_report(paths):
             components, devices, parse, parse / base[0], updates, updates / base[1]))
 
 
+def baseline_report(pairs, folder):
+    """Parse before (the baseline revision) and after (the working tree),
+    from the pairs bench/run ran in turn."""
+    before = [medians("%s/pair-%d-before.json" % (folder, pair))["Parse"][0] for pair in range(1, pairs + 1)]
+    after = [medians("%s/pair-%d-after.json" % (folder, pair))["Parse"][0] for pair in range(1, pairs + 1)]
+    ratios = sorted(a / b for a, b in zip(after, before))
+    def median(values):
+        ordered = sorted(values)
+        middle = len(ordered) // 2
+        return ordered[middle] if len(ordered) % 2 else (ordered[middle - 1] + ordered[middle]) / 2
+    print("%-24s %12s" % ("Parse", "median ms"))
+    print("%-24s %12.2f" % ("before (baseline)", median(before)))
+    print("%-24s %12.2f" % ("after (working tree)", median(after)))
+    print("after / before           %12.3f x  (pairs from %.3f to %.3f x)" % (
+        median(after) / median(before), ratios[0], ratios[-1]))
+
+
 if __name__ == "__main__":
     if sys.argv[1] == "main":
         main_report(sys.argv[2])
     elif sys.argv[1] == "memory":
         memory_report(sys.argv[2])
+    elif sys.argv[1] == "baseline":
+        baseline_report(int(sys.argv[2]), sys.argv[3])
     else:
         scaling_report(sys.argv[2:])

@@ -398,16 +398,20 @@ __attribute__((target("avx2"))) WindowBits ScanWindowAvx2(const char* p)
 }
 #endif
 
-WindowBits ScanWindow(const char* p)
+// The scan this processor runs best, chosen once when the library loads
+// (not at every window).
+using ScanFunction = WindowBits (*)(const char*);
+ScanFunction BestScan()
 {
 #if defined(VEL_XML_AVX2)
-    static const bool avx2 = __builtin_cpu_supports("avx2");
-    if (avx2) {
-        return ScanWindowAvx2(p);
+    __builtin_cpu_init();  // may run before the runtime's own constructors
+    if (__builtin_cpu_supports("avx2")) {
+        return ScanWindowAvx2;
     }
 #endif
-    return ScanWindowSse2(p);
+    return ScanWindowSse2;
 }
+const ScanFunction ScanWindow = BestScan();
 
 // Whether `p[0..15]` holds only ASCII characters XML allows.
 bool PlainAscii(const char* p)
@@ -1157,24 +1161,31 @@ private:
     // blank for the first attribute.
     std::string_view AttributeName(std::size_t start, std::size_t k) const
     {
+        // Blanks are the only characters up to a space here (the
+        // characters of the tag are checked before its values are found).
+        const auto blank = [this](std::size_t i) { return mBytes[i] <= ' '; };
         std::size_t end = mQuotes[2 * k];
-        while (end > start && IsBlank(mBytes[end - 1])) {
-            --end;
-        }
-        if (end > start && mBytes[end - 1] == '=') {
-            --end;
-        }
-        while (end > start && IsBlank(mBytes[end - 1])) {
-            --end;
+        if (mBytes[end - 1] == '=' && !blank(end - 2)) {
+            --end;  // name="...": the usual way
+        } else {
+            while (end > start && blank(end - 1)) {
+                --end;
+            }
+            if (end > start && mBytes[end - 1] == '=') {
+                --end;
+            }
+            while (end > start && blank(end - 1)) {
+                --end;
+            }
         }
         std::size_t begin = end;
         if (k == 0) {
-            while (begin > start && !IsBlank(mBytes[begin - 1])) {
+            while (begin > start && !blank(begin - 1)) {
                 --begin;
             }
         } else {
             begin = std::min(end, mQuotes[2 * k - 1]);
-            while (begin < end && IsBlank(mBytes[begin])) {
+            while (begin < end && blank(begin)) {
                 ++begin;
             }
         }
@@ -1216,7 +1227,7 @@ private:
                         : static_cast<unsigned>(
                               name.size() * 31 + static_cast<unsigned char>(name[name.size() / 2]) * 7 +
                               static_cast<unsigned char>(name.back()) * 3 + static_cast<unsigned char>(name.front()));
-                const std::uint64_t bit = std::uint64_t(1) << (hash % 61);
+                const std::uint64_t bit = std::uint64_t(1) << (hash & 63);
                 if ((seen & bit) != 0 && std::find(mNames.begin(), mNames.end(), name) != mNames.end()) {
                     return Twice(name);
                 }
