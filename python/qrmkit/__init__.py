@@ -298,9 +298,39 @@ def _worker_env() -> Dict[str, str]:
     return env
 
 
-def _worker_args(op: str, args: List[Any]) -> List[str]:
-    encoded = [os.fsdecode(a) if isinstance(a, bytes) else a for a in args]
-    return [sys.executable, "-m", "qrmkit._worker", op, json.dumps(encoded)]
+def _decoded(value: Any) -> Any:
+    if isinstance(value, bytes):
+        return os.fsdecode(value)
+    if isinstance(value, list):
+        return [_decoded(item) for item in value]
+    return value
+
+
+def _start_worker(op: str, args: List[Any]) -> "subprocess.Popen[bytes]":
+    """A fresh interpreter computing `op` (qrmkit._worker), its answer on its
+    standard output. The arguments go through a pipe of their own: a fleet's
+    paths can be longer than one command-line argument may be, and standard
+    input stays the caller's, since a document may be read from it."""
+    encoded = json.dumps(_decoded(args)).encode("ascii")
+    read_end, write_end = os.pipe()
+    try:
+        process = subprocess.Popen(
+            [sys.executable, "-m", "qrmkit._worker", op, str(read_end)],
+            stdout=subprocess.PIPE,
+            env=_worker_env(),
+            pass_fds=(read_end,),
+        )
+    except BaseException:
+        os.close(write_end)
+        raise
+    finally:
+        os.close(read_end)
+    with open(write_end, "wb") as arguments:
+        try:
+            arguments.write(encoded)
+        except BrokenPipeError:
+            pass  # the interpreter ended before reading them: its status says so
+    return process
 
 
 def _fresh_process() -> bool:
@@ -315,10 +345,11 @@ def _fresh_process() -> bool:
 def _compute(op: str, *args: Any) -> Dict[str, Any]:
     """The document of one isolated computation, or its error raised."""
     if _fresh_process():
-        done = subprocess.run(_worker_args(op, list(args)), stdout=subprocess.PIPE, env=_worker_env(), check=False)
-        text = done.stdout.decode("utf-8", "replace").strip()
-        if done.returncode != 0 or not text:
-            raise ProcessDiedError(f"the process computing the answer ended with status {done.returncode}")
+        process = _start_worker(op, list(args))
+        output, _ = process.communicate()
+        text = output.decode("utf-8", "replace").strip()
+        if process.returncode != 0 or not text:
+            raise ProcessDiedError(f"the process computing the answer ended with status {process.returncode}")
     else:
         text = getattr(_qrmkit, "_" + op)(*args)
     document = json.loads(text)
@@ -393,12 +424,7 @@ class Fleet(Iterator[Dict[str, Any]]):
         self._process: Optional[subprocess.Popen] = None
         self._stream: Any = None
         if _fresh_process():
-            encoded = [os.fsdecode(catalog), [os.fsdecode(i) for i in inventories], bundle_type, jobs, timeout]
-            self._process = subprocess.Popen(
-                [sys.executable, "-m", "qrmkit._worker", "fleet", json.dumps(encoded)],
-                stdout=subprocess.PIPE,
-                env=_worker_env(),
-            )
+            self._process = _start_worker("fleet", [catalog, inventories, bundle_type, jobs, timeout])
         else:
             self._stream = _qrmkit._FleetStream(catalog, inventories, bundle_type, jobs, timeout)
         self._first = self._read()

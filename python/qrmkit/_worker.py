@@ -1,11 +1,12 @@
 """Computes one answer of the qrmkit package in a fresh interpreter.
 
-The package starts this module (``python -m qrmkit._worker OP ARGS``) once
+The package starts this module (``python -m qrmkit._worker OP FD``) once
 the low-level layer has read documents into the calling process's stores,
-so that the answer is computed from stores a fresh process has. ARGS is a
-JSON list of the operation's arguments, paths as str (file-system encoding
-with surrogate escapes). It prints the answer's JSON text (for "fleet",
-one line per inventory as each is ready).
+or while the calling process runs other threads, so that the answer is
+computed from stores a fresh process has, by a process with one thread. FD
+is a pipe that holds a JSON list of the operation's arguments, paths as str
+(file-system encoding with surrogate escapes). It prints the answer's JSON
+text (for "fleet", one line per inventory as each is ready).
 """
 
 import json
@@ -16,7 +17,8 @@ from . import _qrmkit
 
 
 def main() -> int:
-    op, args = sys.argv[1], json.loads(sys.argv[2])
+    with open(int(sys.argv[2]), "rb") as arguments:
+        op, args = sys.argv[1], json.loads(arguments.read())
     if op == "fleet":
         catalog, inventories, bundle_type, jobs, timeout = args
         stream = _qrmkit._FleetStream(

@@ -6,6 +6,7 @@ import os
 import shutil
 import subprocess
 import sys
+import threading
 
 import pytest
 
@@ -274,3 +275,28 @@ def test_a_process_running_other_threads_computes_answers_in_fresh_interpreters(
     threaded = isolation_answer(catalog, inventory, examples / "inventory.xml", "threaded")
     assert threaded["updates"] == expected
     assert threaded["fleet"] == fleet_expected
+
+
+def test_a_fleet_in_a_fresh_interpreter_takes_more_paths_than_one_command_line_argument_holds(tool, generated,
+                                                                                              tmp_path):
+    # The paths reach the fresh interpreter whole, however long their list:
+    # here 170 KB of them, where one argument may hold 128 KiB.
+    catalog, inventory = generated[1]
+    folder = tmp_path
+    for level in range(4):
+        folder = folder / (str(level) * 200)
+    folder.mkdir(parents=True)
+    copy = folder / "inventory.xml"
+    shutil.copyfile(inventory, copy)
+    inventories = [copy] * 200
+    assert sum(len(str(path)) for path in inventories) > 128 * 1024
+    expected, _ = fleet_tool(catalog, inventories)
+    stop = threading.Event()
+    other = threading.Thread(target=stop.wait)
+    other.start()  # with another thread running, the fleet runs in a fresh interpreter
+    try:
+        lines = list(qrmkit.fleet(catalog, inventories))
+    finally:
+        stop.set()
+        other.join()
+    assert lines == expected
