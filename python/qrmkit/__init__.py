@@ -325,11 +325,11 @@ def _start_worker(op: str, args: List[Any]) -> "subprocess.Popen[bytes]":
         raise
     finally:
         os.close(read_end)
-    with open(write_end, "wb") as arguments:
-        try:
+    try:
+        with open(write_end, "wb") as arguments:
             arguments.write(encoded)
-        except BrokenPipeError:
-            pass  # the interpreter ended before reading them: its status says so
+    except BrokenPipeError:
+        pass  # the interpreter ended before reading them: its status says so
     return process
 
 
