@@ -73,6 +73,7 @@ public:
 private:
     friend class VELXMLNode;
     friend class VELDOMParser;
+    friend class qrm::detail::XmlElement;
     struct Impl;
     VELXMLNode* Wrap(const VELXMLNode& node);
 

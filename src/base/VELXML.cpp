@@ -18,6 +18,9 @@
 
 struct VELXMLDocument::Impl {
     pugi::xml_document document;
+    // The deepest nesting of elements in the document, as the checks found
+    // it before parsing; unknown (the largest value) until then.
+    std::size_t depth = static_cast<std::size_t>(-1);
 };
 
 using qrm::detail::XmlElement;
@@ -66,6 +69,16 @@ VELErrorCodeEnum VELXMLNode::GetChildren(const char* name, std::vector<VELXMLNod
         children.push_back(mDocument->Wrap(XmlElement::NodeOf(child, mDocument)));
     }
     return VEL_SUCCESS;
+}
+
+// Defined here, where the document's depth is known.
+void qrm::detail::XmlElement::Discard(VELXMLNode& node)
+{
+    XmlElement element = Of(node);
+    element.TakeOut(node.mDocument != nullptr ? node.mDocument->mImpl->depth : static_cast<std::size_t>(-1));
+    if (element.IsNull()) {
+        node.mNode = nullptr;
+    }
 }
 
 VELXMLDocument::VELXMLDocument() : mImpl(new Impl) {}
@@ -130,8 +143,9 @@ pugi::xml_parse_status ReadFile(const std::string& path, XmlBytes& bytes)
 
 // Reads the file and decodes it into the UTF-8 text the parser reads, and
 // checks that text for what the parser does not check. On a document that
-// is not well-formed returns status_ok with `fault` set.
-pugi::xml_parse_status ReadText(const std::string& path, XmlBytes& bytes, XmlFault& fault)
+// is not well-formed returns status_ok with `fault` set; on one that is,
+// sets `depth` to its deepest nesting of elements.
+pugi::xml_parse_status ReadText(const std::string& path, XmlBytes& bytes, XmlFault& fault, std::size_t& depth)
 {
     const pugi::xml_parse_status status = ReadFile(path, bytes);
     if (status != pugi::status_ok) {
@@ -140,7 +154,7 @@ pugi::xml_parse_status ReadText(const std::string& path, XmlBytes& bytes, XmlFau
     if (!qrm::detail::DecodeXmlText(bytes, fault)) {
         return fault.what.empty() ? pugi::status_out_of_memory : pugi::status_ok;
     }
-    qrm::detail::CheckXmlText(bytes.Data(), bytes.Size(), fault);
+    qrm::detail::CheckXmlText(bytes.Data(), bytes.Size(), fault, &depth);
     return pugi::status_ok;
 }
 
@@ -195,7 +209,8 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
     const std::string path = file.GetPath().GetUTF8String();
     XmlBytes bytes;
     XmlFault fault;
-    const pugi::xml_parse_status status = ReadText(path, bytes, fault);
+    std::size_t depth = static_cast<std::size_t>(-1);
+    const pugi::xml_parse_status status = ReadText(path, bytes, fault, depth);
     if (status != pugi::status_ok) {
         Refuse(static_cast<int>(status),
                status == pugi::status_file_not_found  ? "file cannot be opened"
@@ -217,7 +232,8 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
         // say where it stopped.
         XmlBytes again;
         XmlFault ignored;
-        if (ReadText(path, again, ignored) == pugi::status_ok) {
+        std::size_t ignoredDepth = 0;
+        if (ReadText(path, again, ignored, ignoredDepth) == pugi::status_ok) {
             RefuseText(again, XmlFault(), errorCode, errorText);
         }
         if (errorCode == 0) {
@@ -225,5 +241,6 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
         }
         return nullptr;
     }
+    document->mImpl->depth = depth;
     return document.release();
 }

@@ -123,7 +123,9 @@ std::size_t XmlElement::GetChildElements(const char** names, XmlElement* childre
     return count;
 }
 
-void XmlElement::Discard()
+void XmlElement::Discard() { TakeOut(static_cast<std::size_t>(-1)); }
+
+void XmlElement::TakeOut(std::size_t documentDepth)
 {
     pugi::xml_node top = mNode;
     pugi::xml_node parent = top.parent();
@@ -132,11 +134,14 @@ void XmlElement::Discard()
     }
     // The parser frees a subtree recursively. A hostile document may nest
     // elements very deeply, so a deep subtree is taken apart from its
-    // leaves upwards instead, one node at a time.
+    // leaves upwards instead, one node at a time. Whether it is deep is
+    // looked at only when the document itself may be: in a document no
+    // deeper than that, no subtree is.
     const int shallow = 64;
     bool deep = false;
     int depth = 0;
-    for (pugi::xml_node node = top.first_child(); node && !deep;) {
+    pugi::xml_node first = documentDepth > shallow ? top.first_child() : pugi::xml_node();
+    for (pugi::xml_node node = first; node && !deep;) {
         if (node.first_child()) {
             node = node.first_child();
             deep = ++depth >= shallow;
@@ -165,15 +170,6 @@ void XmlElement::Discard()
     }
     parent.remove_child(top);
     mNode = pugi::xml_node();
-}
-
-void XmlElement::Discard(VELXMLNode& node)
-{
-    XmlElement element = Of(node);
-    element.Discard();
-    if (element.IsNull()) {
-        node.mNode = nullptr;
-    }
 }
 
 }  // namespace qrm::detail

@@ -72,6 +72,10 @@ public:
     static void Discard(VELXMLNode& node);
 
 private:
+    // Discard() in a document whose elements nest at most `documentDepth`
+    // deep (the largest value when that is not known).
+    void TakeOut(std::size_t documentDepth);
+
     pugi::xml_node mNode;
 };
 

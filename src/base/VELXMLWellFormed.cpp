@@ -478,6 +478,9 @@ public:
         return walked && characters;
     }
 
+    // The deepest nesting of elements the walk met.
+    std::size_t Deepest() const { return mDeepest; }
+
 private:
     // Keeps the first fault in the text: checks in step may find a later
     // one first.
@@ -1352,6 +1355,7 @@ private:
                     return false;
                 }
                 at = i + 1;
+                mDeepest = std::max(mDeepest, depth + 1);
                 if (mBytes[i - 1] != '/') {
                     ++depth;
                 } else if (depth == 0) {
@@ -1393,6 +1397,8 @@ private:
     bool mHalted = false;
     // The characters up to here are checked.
     std::size_t mChecked = 0;
+    // The deepest nesting of elements so far.
+    std::size_t mDeepest = 0;
     // Where each value of the current start tag opens and ends.
     std::vector<std::size_t> mQuotes;
     std::vector<std::string_view> mNames;
@@ -1503,7 +1509,17 @@ bool DecodeXmlText(XmlBytes& bytes, XmlFault& fault)
                   " is not one this library reads (UTF-8, UTF-16, ISO-8859-1, US-ASCII)");
 }
 
-bool CheckXmlText(const char* text, std::size_t size, XmlFault& fault) { return Checker(text, size, fault).Run(); }
+bool CheckXmlText(const char* text, std::size_t size, XmlFault& fault, std::size_t* depth)
+{
+    Checker checker(text, size, fault);
+    if (!checker.Run()) {
+        return false;
+    }
+    if (depth != nullptr) {
+        *depth = checker.Deepest();
+    }
+    return true;
+}
 
 std::string DescribeXmlPosition(const char* text, std::size_t size, std::size_t offset, const std::string& what)
 {

@@ -540,6 +540,43 @@ TEST(XmlElementDiscard, SubtreesAroundTheDepthWhereTakingApartChangesAreDiscarde
     }
 }
 
+// The readers discard through the document model, where the depth the
+// checks found in the document decides whether a subtree is looked at
+// before it is freed: on either side of that depth, the same result.
+TEST(XmlElementDiscard, DocumentModelNodesAroundTheDepthWhereTakingApartChangesAreDiscardedWhole)
+{
+    for (std::size_t depth : {1u, 2u, 61u, 62u, 63u, 64u, 65u, 66u, 1000u}) {
+        SCOPED_TRACE(depth);
+        std::string xml = "<root><keep id=\"k1\"/><top>";
+        for (std::size_t i = 1; i < depth; ++i) {
+            xml += "<d a=\"" + std::to_string(i) + "\">t<leaf/>";
+        }
+        for (std::size_t i = 1; i < depth; ++i) {
+            xml += "<after/></d>";
+        }
+        xml += "</top><keep id=\"k2\"/></root>";
+        Parsed doc(xml);
+        XmlElement top = doc.Root().FirstChildElement("top");
+        ASSERT_FALSE(top.IsNull());
+        VELXMLNode node = XmlElement::NodeOf(top, doc.Document());
+        XmlElement::Discard(node);
+        EXPECT_TRUE(XmlElement::Of(node).IsNull());
+        EXPECT_EQ((std::vector<std::string>{"keep", "keep"}), WalkedNames(doc.Root()));
+        EXPECT_EQ("k2", Id(doc.Root().FirstChildElement().NextSiblingElement()));
+    }
+}
+
+TEST(XmlElementDiscard, DocumentModelNodeWithAMillionNestedLevelsIsDiscardedWithoutCrashing)
+{
+    Parsed doc(Nested(1000000));
+    XmlElement root = doc.Root();
+    VELXMLNode node = XmlElement::NodeOf(root.FirstChildElement(), doc.Document());
+    XmlElement::Discard(node);
+    EXPECT_TRUE(XmlElement::Of(node).IsNull());
+    EXPECT_TRUE(root.FirstChildElement().IsNull());
+    EXPECT_TRUE(ListedNames(*doc.RootNode()).empty());
+}
+
 TEST(XmlElementDiscard, ElementWithAHundredThousandNestedLevelsIsDiscardedWithoutCrashing)
 {
     Parsed doc(Nested(100000));
