@@ -1231,11 +1231,14 @@ private:
                               name.size() * 31 + static_cast<unsigned char>(name[name.size() / 2]) * 7 +
                               static_cast<unsigned char>(name.back()) * 3 + static_cast<unsigned char>(name.front()));
                 const std::uint64_t bit = std::uint64_t(1) << (hash & 63);
-                if ((seen & bit) != 0 && std::find(mNames.begin(), mNames.end(), name) != mNames.end()) {
+                // The name is compared and stored by value: copied through
+                // memory, it costs more than the rest of the loop.
+                if ((seen & bit) != 0 && std::any_of(mNames.begin(), mNames.end(),
+                                                     [name](std::string_view seenName) { return seenName == name; })) {
                     return Twice(name);
                 }
                 seen |= bit;
-                mNames.push_back(name);
+                mNames.emplace_back(name.data(), name.size());
             }
             return true;
         }
