@@ -95,6 +95,22 @@ std::string Nested(std::size_t depth)
 }
 
 // How many "d" elements lie on the chain of first children below `node`.
+// A root holding "keep" (id k1), "top" with a chain of `depth` - 1 nested
+// "d" inside it, and "keep" (id k2). Each level holds text, a leaf before
+// and after the chain, and an attribute, so that taking the chain apart
+// meets every kind of node.
+std::string KeptAroundAChain(std::size_t depth)
+{
+    std::string xml = "<root><keep id=\"k1\"/><top>";
+    for (std::size_t i = 1; i < depth; ++i) {
+        xml += "<d a=\"" + std::to_string(i) + "\">t<leaf/>";
+    }
+    for (std::size_t i = 1; i < depth; ++i) {
+        xml += "<after/></d>";
+    }
+    return xml + "</top><keep id=\"k2\"/></root>";
+}
+
 std::size_t ChainDepth(XmlElement node)
 {
     std::size_t depth = 0;
@@ -515,17 +531,7 @@ TEST(XmlElementDiscard, SubtreesAroundTheDepthWhereTakingApartChangesAreDiscarde
 {
     for (std::size_t depth : {1u, 2u, 62u, 63u, 64u, 65u, 66u, 1000u}) {
         SCOPED_TRACE(depth);
-        // Each level holds text, a leaf before and after the chain, and an
-        // attribute, so that taking apart meets every kind of node.
-        std::string xml = "<root><keep id=\"k1\"/><top>";
-        for (std::size_t i = 1; i < depth; ++i) {
-            xml += "<d a=\"" + std::to_string(i) + "\">t<leaf/>";
-        }
-        for (std::size_t i = 1; i < depth; ++i) {
-            xml += "<after/></d>";
-        }
-        xml += "</top><keep id=\"k2\"/></root>";
-        Parsed doc(xml);
+        Parsed doc(KeptAroundAChain(depth));
         XmlElement top = doc.Root().FirstChildElement("top");
         ASSERT_FALSE(top.IsNull());
         std::size_t levels = 0;
@@ -547,15 +553,7 @@ TEST(XmlElementDiscard, DocumentModelNodesAroundTheDepthWhereTakingApartChangesA
 {
     for (std::size_t depth : {1u, 2u, 61u, 62u, 63u, 64u, 65u, 66u, 1000u}) {
         SCOPED_TRACE(depth);
-        std::string xml = "<root><keep id=\"k1\"/><top>";
-        for (std::size_t i = 1; i < depth; ++i) {
-            xml += "<d a=\"" + std::to_string(i) + "\">t<leaf/>";
-        }
-        for (std::size_t i = 1; i < depth; ++i) {
-            xml += "<after/></d>";
-        }
-        xml += "</top><keep id=\"k2\"/></root>";
-        Parsed doc(xml);
+        Parsed doc(KeptAroundAChain(depth));
         XmlElement top = doc.Root().FirstChildElement("top");
         ASSERT_FALSE(top.IsNull());
         VELXMLNode node = XmlElement::NodeOf(top, doc.Document());
