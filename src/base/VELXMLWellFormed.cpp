@@ -532,7 +532,9 @@ private:
                 if (!IsXmlChar(c)) {
                     return Fail(at, "a character XML does not allow");
                 }
-                mNonAscii = mNonAscii || length > 1;
+                if (length > 1) {
+                    mNonAsciiEnd = at + length;
+                }
                 at += length;
             }
         }
@@ -1196,12 +1198,12 @@ private:
     }
 
     // The start tag from `start` ('<') to `close` ('>'): no attribute
-    // twice, and names XML allows when the text is not all ASCII (the
-    // parser checks ASCII names itself).
-    bool CheckAttributes(std::size_t start, std::size_t close)
+    // twice, and, when `nonAscii` says the tag holds characters beyond
+    // ASCII, names XML allows (the parser checks ASCII names itself).
+    bool CheckAttributes(std::size_t start, std::size_t close, bool nonAscii)
     {
         const std::size_t count = mQuotes.size() / 2;
-        if (mNonAscii) {
+        if (nonAscii) {
             const std::size_t end = NameEnd(start + 1);
             if (end == start + 1 || !(IsBlank(At(end)) || At(end) == '/' || end == close)) {
                 return Fail(start + 1, "an element name with a character XML does not allow in names");
@@ -1354,7 +1356,10 @@ private:
                 if (i >= mSize) {
                     return Fail(start, "a start tag that does not end");
                 }
-                if ((mQuotes.size() >= 4 || mNonAscii) && !CheckAttributes(start, i)) {
+                // The tag's characters are all checked by now: one beyond
+                // ASCII that ends after its '<' is in it, or just after it.
+                const bool nonAscii = mNonAsciiEnd > start;
+                if ((mQuotes.size() >= 4 || nonAscii) && !CheckAttributes(start, i, nonAscii)) {
                     return false;
                 }
                 at = i + 1;
@@ -1395,11 +1400,12 @@ private:
     XmlFault& mFault;
     bool mRootSeen = false;
     bool mDoctypeSeen = false;
-    bool mNonAscii = false;
     // A fault among the characters stops the walk over markup.
     bool mHalted = false;
     // The characters up to here are checked.
     std::size_t mChecked = 0;
+    // Where the last character beyond ASCII checked so far ends (0: none).
+    std::size_t mNonAsciiEnd = 0;
     // The deepest nesting of elements so far.
     std::size_t mDeepest = 0;
     // Where each value of the current start tag opens and ends.
