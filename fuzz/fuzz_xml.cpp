@@ -48,6 +48,9 @@ struct LibxmlView {
     // The document holds a NUL character (a NUL byte, or a NUL code unit in
     // UTF-16).
     bool nul = false;
+    // In UTF-16, its last whole code unit is a high surrogate: its last
+    // character is cut in half.
+    bool endsInHighSurrogate = false;
 };
 
 // The document being parsed; the callbacks below report into it.
@@ -90,6 +93,9 @@ LibxmlView ParseWithLibxml(const uint8_t* data, std::size_t size)
         for (std::size_t i = 0; i + 1 < size && !view.nul; i += 2) {
             view.nul = data[i] == 0 && data[i + 1] == 0;
         }
+        const std::size_t last = size / 2 * 2 - 2;  // size >= 4 here
+        const unsigned high = view.detectedEncoding == XML_CHAR_ENCODING_UTF16LE ? data[last + 1] : data[last];
+        view.endsInHighSurrogate = high >= 0xD8 && high <= 0xDB;
     } else {
         view.nul = std::memchr(data, 0, size) != nullptr;
     }
@@ -144,6 +150,13 @@ const char* ExpectedRefusal(const LibxmlView& view)
     // root element for the end of the document.
     if (view.nul) {
         return "it holds a NUL character";
+    }
+    // An unpaired surrogate is no character. libxml2 leaves a character cut
+    // at the very end of a UTF-16 document out, as it does a dangling byte
+    // (which the library leaves out too: half a code unit is no character
+    // at all).
+    if (view.endsInHighSurrogate) {
+        return "its last UTF-16 code unit is a high surrogate without its pair";
     }
     // A document declared US-ASCII holds only ASCII; libxml2 takes bytes
     // that it cannot decode after the root element for the end of the
