@@ -76,9 +76,13 @@ void BM_WellFormednessCheck(benchmark::State& state, bool beyondAscii)
     if (file != nullptr) {
         std::fclose(file);
     }
-    const std::size_t root = bytes.find("?>");
-    if (beyondAscii && root != std::string::npos) {
-        bytes.insert(root + 2, "<!-- \xC3\xA9t\xC3\xA9 -->");
+    if (beyondAscii) {
+        const std::size_t declarationEnd = bytes.find("?>");
+        if (declarationEnd == std::string::npos) {
+            state.SkipWithError("the catalog has no XML declaration to put the comment after");
+            return;
+        }
+        bytes.insert(declarationEnd + 2, "<!-- \xC3\xA9t\xC3\xA9 -->");
     }
     // The bytes are copied once: Parse reads them from the file into such a
     // buffer anyway, and UTF-8 text is checked where it lies.

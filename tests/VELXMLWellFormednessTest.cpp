@@ -50,15 +50,6 @@ TEST_P(NotWellFormed, FailsWithItsLineColumnAndReason)
     EXPECT_EQ(0u, parsed.errorText.rfind(GetParam().error, 0)) << parsed.errorText;
 }
 
-std::string Repeated(const std::string& part, int times)
-{
-    std::string whole;
-    for (int i = 0; i < times; ++i) {
-        whole += part;
-    }
-    return whole;
-}
-
 const std::string kLongNames = [] {
     std::string attributes;
     for (int i = 0; i < 70; ++i) {
@@ -140,13 +131,13 @@ INSTANTIATE_TEST_SUITE_P(
         // character beyond ASCII: wherever in the tag it is, and whatever
         // came before.
         Refused{"ANameCharacterXMLForbidsAfterTagsAllASCII",
-                "<r>" + Repeated("<x a=\"1\" b=\"2\"/>", 10) + "<y\xC3\x97/></r>",
+                "<r>" + Repeat("<x a=\"1\" b=\"2\"/>", 10) + "<y\xC3\x97/></r>",
                 "line 1, column 165: an element name with a character XML does not allow in names"},
         Refused{"ANameCharacterXMLForbidsInATagThatEndsTwoWindowsLater",
                 "<r>" + std::string(57, 'x') + "<yyy\xC3\x97" + kLongNames + "/></r>",
                 "line 1, column 62: an element name with a character XML does not allow in names"},
         Refused{"AnAttributeNameCharacterXMLForbidsAfterTextBeyondASCII",
-                "<r>caf\xC3\xA9<x a=\"1\"/>" + Repeated("<x a=\"1\" b=\"2\"/>", 10) + "<y \xC3\xB7=\"1\"/></r>",
+                "<r>caf\xC3\xA9<x a=\"1\"/>" + Repeat("<x a=\"1\" b=\"2\"/>", 10) + "<y \xC3\xB7=\"1\"/></r>",
                 "line 1, column 181: an attribute name with a character XML does not allow in names"},
         Refused{"MismatchedTagsAsTheParserSaysFirst", "<a>\n<b>\n</a>\n", "line 3, column 3: start-end tags mismatch"},
         Refused{"AnEmptyFile", "", "line 1, column 1: no root element"},

@@ -19,8 +19,8 @@
 struct VELXMLDocument::Impl {
     pugi::xml_document document;
     // The deepest nesting of elements in the document, as the checks found
-    // it before parsing; unknown (the largest value) until then.
-    std::size_t depth = static_cast<std::size_t>(-1);
+    // it before parsing; any depth until then.
+    std::size_t depth = qrm::detail::XmlElement::kAnyDepth;
 };
 
 using qrm::detail::XmlElement;
@@ -75,7 +75,7 @@ VELErrorCodeEnum VELXMLNode::GetChildren(const char* name, std::vector<VELXMLNod
 void qrm::detail::XmlElement::Discard(VELXMLNode& node)
 {
     XmlElement element = Of(node);
-    element.TakeOut(node.mDocument != nullptr ? node.mDocument->mImpl->depth : static_cast<std::size_t>(-1));
+    element.TakeOut(node.mDocument != nullptr ? node.mDocument->mImpl->depth : kAnyDepth);
     if (element.IsNull()) {
         node.mNode = nullptr;
     }
@@ -209,7 +209,7 @@ VELXMLDocument* VELDOMParser::Parse(const VELFile& file, int& errorCode, VELStri
     const std::string path = file.GetPath().GetUTF8String();
     XmlBytes bytes;
     XmlFault fault;
-    std::size_t depth = static_cast<std::size_t>(-1);
+    std::size_t depth = XmlElement::kAnyDepth;
     const pugi::xml_parse_status status = ReadText(path, bytes, fault, depth);
     if (status != pugi::status_ok) {
         Refuse(static_cast<int>(status),

@@ -123,7 +123,7 @@ std::size_t XmlElement::GetChildElements(const char** names, XmlElement* childre
     return count;
 }
 
-void XmlElement::Discard() { TakeOut(static_cast<std::size_t>(-1)); }
+void XmlElement::Discard() { TakeOut(kAnyDepth); }
 
 void XmlElement::TakeOut(std::size_t documentDepth)
 {

@@ -17,6 +17,9 @@ namespace qrm::detail {
 
 class XmlElement {
 public:
+    // The depth of a document whose nesting is not known: any depth.
+    static constexpr std::size_t kAnyDepth = static_cast<std::size_t>(-1);
+
     // A null node.
     XmlElement() = default;
     explicit XmlElement(pugi::xml_node node) : mNode(node) {}
@@ -73,7 +76,7 @@ public:
 
 private:
     // Discard() in a document whose elements nest at most `documentDepth`
-    // deep (the largest value when that is not known).
+    // deep (kAnyDepth when that is not known).
     void TakeOut(std::size_t documentDepth);
 
     pugi::xml_node mNode;
